@@ -1,0 +1,54 @@
+#include "core/export/ExportFormat.h"
+
+#include <gtest/gtest.h>
+
+namespace orrery {
+namespace {
+
+TEST(ExportFormat, RowsNumbersAndNamesAgree) {
+    const char* names[] = {"BMP", "GIF", "JPEG", "JPEG 2000", "PNG", "TIFF"};
+    const char* types[] = {"bmp", "gif", "jpg", "jp2", "png", "tif"};
+    for (long row = 0; row < 6; ++row) {
+        const auto format = formatForRow(row);
+        ASSERT_TRUE(format);
+        EXPECT_EQ(formatInfo(*format).name, names[row]);
+        EXPECT_EQ(formatInfo(*format).fileType, types[row]);
+        EXPECT_EQ(rowOf(*format), row);
+        EXPECT_EQ(formatForNumber(row + 1), format);
+        EXPECT_EQ(numberOf(*format), row + 1);
+        // The save panel's own file type leads back to the same format.
+        EXPECT_EQ(formatForPath(std::string("x.") + types[row]), format);
+    }
+}
+
+TEST(ExportFormat, OnlyJpegFormatsTakeCompression) {
+    for (const ExportFormatInfo& info : kExportFormats)
+        EXPECT_EQ(info.usesCompression,
+                  info.format == ExportFormat::jpeg || info.format == ExportFormat::jpeg2000)
+            << info.name;
+}
+
+TEST(ExportFormat, NumbersOutsideOneToSixNameNoFormat) {
+    EXPECT_FALSE(formatForNumber(0));
+    EXPECT_FALSE(formatForNumber(7));
+    EXPECT_FALSE(formatForNumber(-1));
+    EXPECT_FALSE(formatForRow(6));
+    EXPECT_FALSE(formatForRow(-1));
+}
+
+TEST(ExportFormat, PathExtensions) {
+    EXPECT_EQ(formatForPath("/tmp/a.JPEG"), ExportFormat::jpeg);
+    EXPECT_EQ(formatForPath("picture.Tiff"), ExportFormat::tiff);
+    EXPECT_EQ(formatForPath("my.system.gif"), ExportFormat::gif);
+    // Only the last extension of the name counts, never a dot in a folder name.
+    EXPECT_FALSE(formatForPath("archive.png.gz"));
+    EXPECT_FALSE(formatForPath("/tmp/pictures.png/plain"));
+    EXPECT_FALSE(formatForPath("noextension"));
+    EXPECT_FALSE(formatForPath("trailingdot."));
+    EXPECT_FALSE(formatForPath(".png")); // a hidden file, not an extension
+    EXPECT_FALSE(formatForPath("a.webp"));
+    EXPECT_FALSE(formatForPath(""));
+}
+
+} // namespace
+} // namespace orrery
