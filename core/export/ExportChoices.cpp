@@ -22,8 +22,9 @@ float compressionFactor(int sliderValue) {
     return static_cast<float>(std::clamp(sliderValue, 0, 100)) / 100.0f;
 }
 
-bool canExport(const PlanetList& planets) {
-    return planets.anyVisible();
+bool canExport(const std::vector<PlanetRecord>& planets) {
+    return std::any_of(planets.begin(), planets.end(),
+                       [](const PlanetRecord& planet) { return planet.state == "1"; });
 }
 
 IncludeBackgroundChoice includeBackgroundChoice(long currentBackground,

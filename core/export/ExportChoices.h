@@ -4,6 +4,7 @@
 #include "core/model/PlanetList.h"
 
 #include <string_view>
+#include <vector>
 
 // The rules that set up the export question and the save panel from the stored
 // preferences and the current system.
@@ -24,8 +25,11 @@ int defaultCompression(std::string_view storedCompression);
 // The compression factor handed to the encoders: the slider value / 100, single precision.
 float compressionFactor(int sliderValue);
 
-// Export is offered while at least one planet is shown.
-bool canExport(const PlanetList& planets);
+// Export is offered while at least one planet is shown (state "1").
+bool canExport(const std::vector<PlanetRecord>& planets);
+inline bool canExport(const PlanetList& planets) {
+    return canExport(planets.records());
+}
 
 // The include-background check box of the question: usable only when a background colour
 // is chosen, and then on when the general preference (General position 3) is "1".

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <iterator>
 
 namespace orrery {
 namespace {
@@ -19,23 +20,25 @@ Image overImage3(const Image& picture, Color background) {
     Image result = picture;
     if (result.isNull())
         return result;
-    const unsigned under[4] = {toByte(background.red), toByte(background.green),
-                               toByte(background.blue), toByte(background.alpha)};
+    const std::uint8_t under[4] = {toByte(background.red), toByte(background.green),
+                                   toByte(background.blue), toByte(background.alpha)};
     for (std::size_t i = 0; i < result.pixels.size(); i += 4) {
         std::uint8_t* p = result.pixels.data() + i;
         const unsigned alpha = p[3];
         if (alpha == 255)
             continue;
+        if (alpha == 0) { // most of a scene is empty space
+            std::copy(std::begin(under), std::end(under), p);
+            continue;
+        }
         // The colour shows through by the share the picture leaves uncovered; dividing by
         // the resulting alpha keeps the colours straight (not premultiplied), which also
         // holds for a translucent colour under the picture.
         const unsigned underWeight = (under[3] * (255 - alpha) + 127) / 255;
         const unsigned outAlpha = alpha + underWeight;
         for (int c = 0; c < 3; ++c)
-            p[c] = outAlpha == 0
-                       ? 0
-                       : static_cast<std::uint8_t>(
-                             (p[c] * alpha + under[c] * underWeight + outAlpha / 2) / outAlpha);
+            p[c] = static_cast<std::uint8_t>(
+                (p[c] * alpha + under[c] * underWeight + outAlpha / 2) / outAlpha);
         p[3] = static_cast<std::uint8_t>(outAlpha);
     }
     return result;

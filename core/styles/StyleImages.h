@@ -18,13 +18,12 @@ Image makeGradientImage(const std::optional<Gradient>& gradient, double width, d
                         double angle);
 
 // The same for a stop list in the dictionary-of-texts form (the decorative panels).
-Image createGradientImage(const std::vector<GradientStopText>& stops, double width,
-                          double height, double angle);
+Image createGradientImage(const std::vector<GradientStopText>& stops, double width, double height,
+                          double angle);
 
 // Squares of squareWidth in two colours with hard edges, a square corner at the top-left;
 // width or height 0 gives an empty image.
-Image getCheckboard(Color color0, Color color1, double squareWidth, double width,
-                    double height);
+Image getCheckboard(Color color0, Color color1, double squareWidth, double width, double height);
 
 // An image of the size filled with one colour.
 Image createColorImage(double width, double height, Color color);
@@ -42,5 +41,7 @@ std::optional<Color> exportBackgroundColor(long index);
 std::optional<Image> imageResize32(const Image& image);
 std::optional<Image> imageResize64(const Image& image);
 std::optional<Image> imageResize128(const Image& image);
+// The same for any target size (none for a target below 1).
+std::optional<Image> imageResize(const Image& image, int target);
 
 } // namespace orrery

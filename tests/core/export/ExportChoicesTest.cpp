@@ -49,15 +49,11 @@ TEST(ExportChoices, ExportNeedsOneVisiblePlanet) {
 }
 
 TEST(ExportChoices, IncludeBackgroundOnlyWithAColour) {
-    const IncludeBackgroundChoice transparent = includeBackgroundChoice(0, "1");
-    EXPECT_FALSE(transparent.enabled);
-    EXPECT_FALSE(transparent.on);
-    const IncludeBackgroundChoice navyOn = includeBackgroundChoice(3, "1");
-    EXPECT_TRUE(navyOn.enabled);
-    EXPECT_TRUE(navyOn.on);
-    const IncludeBackgroundChoice whiteOff = includeBackgroundChoice(1, "0");
-    EXPECT_TRUE(whiteOff.enabled);
-    EXPECT_FALSE(whiteOff.on);
+    EXPECT_FALSE(includeBackgroundChoice(0, "1").enabled);
+    EXPECT_FALSE(includeBackgroundChoice(0, "1").on);
+    EXPECT_TRUE(includeBackgroundChoice(3, "1").on);
+    EXPECT_TRUE(includeBackgroundChoice(1, "0").enabled);
+    EXPECT_FALSE(includeBackgroundChoice(1, "0").on);
 }
 
 } // namespace

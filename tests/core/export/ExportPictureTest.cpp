@@ -50,10 +50,6 @@ TEST(OverImage, TranslucentColourStaysStraight) {
     EXPECT_NEAR(edge[3], 192, 1);
 }
 
-TEST(OverImage, EmptyPictureStaysEmpty) {
-    EXPECT_TRUE(overImage3(Image{}, kWhite).isNull());
-}
-
 TEST(ExportPicture, NavyBackgroundIsLaidUnderWhenAskedFor) {
     const Image laid = exportPicture(scenePicture(), 3, true);
     EXPECT_EQ(at(laid, 0, 0), (Rgba{20, 30, 80, 255}));

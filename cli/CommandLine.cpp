@@ -1,0 +1,53 @@
+#include "cli/ExitStatus.h"
+#include "cli/Verbs.h"
+
+namespace orrery::cli {
+namespace {
+
+constexpr std::string_view kUsage =
+    R"(usage:
+  orrery [PACKAGE.kvx ...]               open the window; the first package is opened
+  orrery info PACKAGE.kvx                print the package as JSON
+  orrery render PACKAGE.kvx -o FILE      render without a display and write FILE
+         [--scale S]                     backing scale factor (default 1)
+         [--include-background]          lay the picture over the background colour
+         [--quality N]                   JPEG / JPEG 2000 compression 0-100 (default 85)
+  orrery convert IN OUT                  .json -> .kvx or .kvx -> .json
+  orrery --help | --version
+
+The picture type of render follows FILE's extension: .bmp .gif .jpg .jpeg .jp2 .png .tif
+.tiff. Exit status: 0 done; 1 bad usage; 2 input missing or invalid; 3 output cannot be
+written.
+)";
+
+} // namespace
+
+bool isCommandLine(const std::vector<std::string>& arguments) {
+    if (arguments.empty())
+        return false;
+    const std::string& first = arguments.front();
+    return first == "info" || first == "render" || first == "convert" ||
+           (first.size() > 1 && first.front() == '-');
+}
+
+int runCommandLine(const std::vector<std::string>& arguments, const Streams& io) {
+    const std::string& verb = arguments.front();
+    const std::vector<std::string> rest(arguments.begin() + 1, arguments.end());
+    if (verb == "info")
+        return infoCommand(rest, io);
+    if (verb == "render")
+        return renderCommand(rest, io);
+    if (verb == "convert")
+        return convertCommand(rest, io);
+    if (verb == "--help" || verb == "-h") {
+        io.out << kUsage;
+        return kDone;
+    }
+    if (verb == "--version") {
+        io.out << io.program << ' ' << ORRERY_VERSION << '\n';
+        return kDone;
+    }
+    return fail(io.err, io.program, kBadUsage, "unknown option " + verb + "; see --help");
+}
+
+} // namespace orrery::cli

@@ -1,0 +1,22 @@
+#include "cli/Verbs.h"
+
+#include <filesystem>
+#include <iostream>
+
+namespace {
+
+// The window is not part of this build yet: say where the command line is.
+int openWindow(std::string_view program) {
+    std::cerr << program << ": this build has no window; see " << program << " --help\n";
+    return 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    const std::string program = std::filesystem::path(argc > 0 ? argv[0] : "orrery").filename();
+    if (!orrery::cli::isCommandLine(arguments))
+        return openWindow(program);
+    return orrery::cli::runCommandLine(arguments, {program, std::cout, std::cerr});
+}

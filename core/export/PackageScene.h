@@ -1,0 +1,31 @@
+#pragma once
+
+#include "core/package/ProjectDocument.h"
+#include "core/scene/SceneView.h"
+
+namespace orrery {
+
+// The document area at first start, which an opened package keeps when its own size fails
+// its check.
+inline constexpr int kFirstDocumentWidth = 960;
+inline constexpr int kFirstDocumentHeight = 540;
+
+struct DocumentSize {
+    int width = kFirstDocumentWidth;
+    int height = kFirstDocumentHeight;
+    friend bool operator==(const DocumentSize&, const DocumentSize&) = default;
+};
+
+// What opening a package in a fresh window shows, and so what its export writes:
+// the document size when both values pass their checks, else the first-start size.
+DocumentSize packageDocumentSize(const OpenedProject& project);
+// The background when it passes its check, else the fresh window's transparent 0.
+long packageBackground(const OpenedProject& project);
+
+// Sets up a fresh scene view as opening the package does: the camera when all five camera
+// values pass, the light position when all three pass, the light colour, and one node per
+// planet built with createPlanet2. Opening does not hide planets whose state is "0"; they
+// show until their check box is next switched, and the export draws them too.
+void loadPackageScene(SceneView& view, const OpenedProject& project);
+
+} // namespace orrery

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "core/package/PackageLimits.h"
+
+#include <string>
+#include <string_view>
+
+namespace orrery {
+
+// Walks the structure of a binary property list ("bplist00") without building it and
+// without recursion: trailer and offset table in range, every reachable object well formed
+// and inside the object area, references in range, dictionary keys that are text, no
+// cycles, nesting within kMaxNestingDepth, and a tree of at most limits.maxNodes nodes
+// and at most about four nodes per byte of the file.
+// libplist 2.2 recurses once per nesting level and copies a shared object at every
+// reference, so only bytes that pass this check may be handed to it.
+bool checkBinaryPropertyList(std::string_view bytes, const ParseLimits& limits, std::string& error);
+
+} // namespace orrery

@@ -1,0 +1,127 @@
+#include "core/scene/SceneNode.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace orrery {
+
+SceneNode::~SceneNode() {
+    // Children that someone else still holds become detached nodes.
+    for (const auto& child : children_)
+        child->parent_ = nullptr;
+}
+
+void SceneNode::touch() {
+    for (SceneNode* node = this; node != nullptr; node = node->parent_)
+        ++node->revision_;
+}
+
+void SceneNode::setName(std::string name) {
+    if (name == name_)
+        return;
+    if (parent_ != nullptr)
+        parent_->unindexChild(this);
+    name_ = std::move(name);
+    if (parent_ != nullptr)
+        parent_->indexChild(this);
+    touch();
+}
+
+void SceneNode::setPosition(Vec3 position) {
+    position_ = position;
+    touch();
+}
+
+Vec3 SceneNode::worldPosition() const {
+    Vec3 world = position_;
+    for (const SceneNode* node = parent_; node != nullptr; node = node->parent_)
+        world = world + node->position_;
+    return world;
+}
+
+void SceneNode::setHidden(bool hidden) {
+    hidden_ = hidden;
+    touch();
+}
+
+void SceneNode::setSphere(std::optional<Sphere> sphere) {
+    sphere_ = std::move(sphere);
+    touch();
+}
+
+void SceneNode::setMaterial(std::optional<Material> material) {
+    if (!sphere_)
+        return;
+    sphere_->material = std::move(material);
+    touch();
+}
+
+void SceneNode::setCamera(std::optional<Camera> camera) {
+    camera_ = camera;
+    touch();
+}
+
+void SceneNode::setLight(std::optional<Light> light) {
+    light_ = std::move(light);
+    touch();
+}
+
+void SceneNode::addChildNode(std::shared_ptr<SceneNode> child) {
+    if (!child || child.get() == this)
+        return;
+    child->removeFromParentNode();
+    SceneNode* raw = child.get();
+    children_.push_back(std::move(child));
+    raw->parent_ = this;
+    raw->placeInParent_ = std::prev(children_.end());
+    raw->appendOrder_ = nextAppendOrder_++;
+    indexChild(raw);
+    touch();
+}
+
+void SceneNode::removeFromParentNode() {
+    SceneNode* parent = parent_;
+    if (parent == nullptr)
+        return;
+    parent->unindexChild(this);
+    // Keep this node alive until the bookkeeping is done: the list may hold the last owner.
+    const std::shared_ptr<SceneNode> keep = *placeInParent_;
+    parent->children_.erase(placeInParent_);
+    parent_ = nullptr;
+    parent->touch();
+}
+
+std::vector<std::shared_ptr<SceneNode>> SceneNode::childNodesNamed(std::string_view name) const {
+    std::vector<std::shared_ptr<SceneNode>> matches;
+    const auto found = childrenByName_.find(name);
+    if (found == childrenByName_.end())
+        return matches;
+    matches.reserve(found->second.size());
+    for (SceneNode* child : found->second)
+        matches.push_back(*child->placeInParent_);
+    return matches;
+}
+
+void SceneNode::indexChild(SceneNode* child) {
+    // Usually the child is the last one and goes to the end; a renamed child finds its
+    // place by the order in which the children were appended.
+    auto& sameName = childrenByName_[child->name_];
+    const auto place = std::upper_bound(
+        sameName.begin(), sameName.end(), child->appendOrder_,
+        [](std::uint64_t order, const SceneNode* other) { return order < other->appendOrder_; });
+    sameName.insert(place, child);
+}
+
+void SceneNode::unindexChild(SceneNode* child) {
+    const auto found = childrenByName_.find(child->name_);
+    if (found == childrenByName_.end())
+        return;
+    auto& sameName = found->second;
+    const auto place = std::find(sameName.begin(), sameName.end(), child);
+    if (place != sameName.end())
+        sameName.erase(place);
+    if (sameName.empty())
+        childrenByName_.erase(found);
+}
+
+} // namespace orrery

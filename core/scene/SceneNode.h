@@ -1,0 +1,122 @@
+#pragma once
+
+#include "core/model/Color.h"
+#include "core/scene/Material.h"
+#include "core/scene/Vec3.h"
+
+#include <cstdint>
+#include <list>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace orrery {
+
+// A sphere around its node's position; the material list holds at most one material, and
+// none means the renderer's default (plain white, lit).
+struct Sphere {
+    double radius = 1.0;
+    std::optional<Material> material;
+};
+
+struct Camera {
+    double xFov = 0.0; // degrees
+    double yFov = 0.0; // degrees
+    double orthographicScale = 1.0;
+    bool automaticallyAdjustsZRange = false;
+    bool usesOrthographicProjection = false;
+};
+
+enum class LightType { omni };
+
+struct Light {
+    LightType type = LightType::omni;
+    std::string name;
+    Color color = kWhite;
+};
+
+// A node of the scene graph: a name, a position relative to its parent, a hidden flag
+// (hiding a node hides everything below it) and optionally a sphere, a camera or a light.
+// Nodes are shared: whoever keeps a node removed from the scene keeps a detached node.
+class SceneNode {
+public:
+    using ChildList = std::list<std::shared_ptr<SceneNode>>;
+
+    static std::shared_ptr<SceneNode> create() { return std::shared_ptr<SceneNode>(new SceneNode); }
+    ~SceneNode();
+    SceneNode(const SceneNode&) = delete;
+    SceneNode& operator=(const SceneNode&) = delete;
+
+    const std::string& name() const { return name_; }
+    void setName(std::string name);
+
+    Vec3 position() const { return position_; }
+    void setPosition(Vec3 position);
+    // The position in the coordinates of the scene's root.
+    Vec3 worldPosition() const;
+
+    bool isHidden() const { return hidden_; }
+    void setHidden(bool hidden);
+
+    const std::optional<Sphere>& sphere() const { return sphere_; }
+    void setSphere(std::optional<Sphere> sphere);
+    // Does nothing on a node without a sphere.
+    void setMaterial(std::optional<Material> material);
+
+    const std::optional<Camera>& camera() const { return camera_; }
+    void setCamera(std::optional<Camera> camera);
+    const std::optional<Light>& light() const { return light_; }
+    void setLight(std::optional<Light> light);
+
+    SceneNode* parent() const { return parent_; }
+    // Appends the node after the existing children, taking it away from any former parent.
+    void addChildNode(std::shared_ptr<SceneNode> child);
+    void removeFromParentNode();
+
+    const ChildList& children() const { return children_; }
+    std::size_t childCount() const { return children_.size(); }
+    // The children whose name equals the text exactly, in child order. The result is a
+    // snapshot: the caller may remove or add children while walking it.
+    std::vector<std::shared_ptr<SceneNode>> childNodesNamed(std::string_view name) const;
+
+    // Grows by at least one with every change at or below this node; read it on the root
+    // to learn whether anything in the scene changed since the last look.
+    std::uint64_t revision() const { return revision_; }
+
+private:
+    SceneNode() = default;
+    void touch();
+    void indexChild(SceneNode* child);
+    void unindexChild(SceneNode* child);
+
+    struct NameHash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view text) const {
+            return std::hash<std::string_view>{}(text);
+        }
+    };
+    using NameIndex =
+        std::unordered_map<std::string, std::vector<SceneNode*>, NameHash, std::equal_to<>>;
+
+    std::string name_;
+    Vec3 position_;
+    bool hidden_ = false;
+    std::optional<Sphere> sphere_;
+    std::optional<Camera> camera_;
+    std::optional<Light> light_;
+
+    SceneNode* parent_ = nullptr;
+    ChildList::iterator placeInParent_;
+    std::uint64_t appendOrder_ = 0; // increases along the parent's child list
+    std::uint64_t nextAppendOrder_ = 0;
+    ChildList children_;
+    // Children by name, each list in child order, so that finding a planet among 100,000
+    // does not walk them all.
+    NameIndex childrenByName_;
+    std::uint64_t revision_ = 0;
+};
+
+} // namespace orrery

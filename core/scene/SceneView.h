@@ -1,0 +1,135 @@
+#pragma once
+
+#include "core/model/Color.h"
+#include "core/scene/CameraProjection.h"
+#include "core/scene/HitTest.h"
+#include "core/scene/Scene.h"
+#include "core/scene/SceneNode.h"
+#include "core/scene/Vec3.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orrery {
+
+// A point of the view: x to the right and y up from the bottom-left corner, in points.
+struct ViewPoint {
+    double x = 0.0;
+    double y = 0.0;
+};
+
+// What the scene tells the controller from its mouse handling.
+struct SceneControllerCalls {
+    // The tsecs of the clicked planet, or "0" for a click on empty space.
+    std::function<void(const std::string& tsecs)> hitText1Selected;
+    // A dragged planet's new position, each component as text.
+    std::function<void(const std::string& tsecs, const std::string& x, const std::string& y,
+                       const std::string& z)>
+        updateTextPostion;
+};
+
+// The planet scene and everything the main window's 3D view does with it, without any
+// toolkit: planets as sphere nodes found again by name, the camera and the light, the
+// projection of the view, hit testing, and dragging planets with the mouse. Texts are
+// the planet record's own texts; numbers are read from them in single precision.
+class SceneView {
+public:
+    // Builds the scene: a camera at (0, 0, 500) and a white omnidirectional light named
+    // "light" at (0, 0, 100), nothing else.
+    SceneView();
+    SceneView(const SceneView&) = delete;
+    SceneView& operator=(const SceneView&) = delete;
+
+    // Planets. A node is named "planet" + tsecs; every operation that finds nodes acts on
+    // each child of the root with exactly that name.
+    void createPlanet(std::string_view tsecs, std::string_view x, std::string_view y,
+                      std::string_view z, std::string_view radius);
+    void createPlanet2(std::string_view tsecs, Color color, std::int64_t styleIndex,
+                       std::int64_t surfaceIndex, std::string_view x, std::string_view y,
+                       std::string_view z, std::string_view radius);
+    // Replaces each matching node by a new, visible one; creates nothing when none match.
+    void updatePlanet(std::string_view tsecs, Color color, std::int64_t styleIndex,
+                      std::int64_t surfaceIndex, std::string_view x, std::string_view y,
+                      std::string_view z, std::string_view radius);
+    // State 0 hides, anything else shows.
+    void updateStatus(std::string_view tsecs, std::int64_t state);
+    void deletePlanet(std::string_view tsecs);
+
+    // Camera and light. The recorded field of view and flags are kept for the popover and
+    // the project file only: the picture always uses the perspective set up at the start.
+    void updateCamera(double xFov, double yFov, double x, double y, double z, bool orthographic,
+                      bool zRange);
+    // x and y field of view ("%0.1f"), camera x, y, z ("%f"), orthographic and z-range
+    // flags ("1" or "0").
+    std::vector<std::string> getCameraSettings() const;
+    void updateLight(std::string_view x, std::string_view y, std::string_view z);
+    // Replaces the light by a new one of this colour at the old light's position.
+    void updateLightColor(Color color);
+    Vec3 getLightPosition() const;
+
+    // The view's size in points, which sets the horizontal field of view.
+    void setViewSize(double width, double height);
+    double viewWidth() const { return viewWidth_; }
+    double viewHeight() const { return viewHeight_; }
+    // The camera's perspective for the view, or for a picture of another size (the same
+    // camera at a backing scale, or an export).
+    CameraProjection projection() const { return projection(viewWidth_, viewHeight_); }
+    CameraProjection projection(double width, double height) const;
+    Vec3 projectPoint(Vec3 scenePoint) const { return projection().project(scenePoint); }
+    Vec3 unprojectPoint(Vec3 viewPoint) const { return projection().unproject(viewPoint); }
+    std::vector<HitResult> hitTest(ViewPoint point) const;
+
+    // Mouse handling: a press on a planet selects it and starts a drag that moves it in
+    // the plane of the screen; a press on empty space selects nothing.
+    void setController(SceneControllerCalls calls) { controller_ = std::move(calls); }
+    void mouseDown(ViewPoint point);
+    void mouseDragged(ViewPoint point);
+    void mouseUp() { canUpdatePlanet_ = false; }
+    bool isDragging() const { return canUpdatePlanet_; }
+
+    // Called after every change of the scene, so that the window redraws.
+    void setNeedsDisplayHandler(std::function<void()> handler) {
+        needsDisplay_ = std::move(handler);
+    }
+
+    const Scene& scene() const { return scene_; }
+    const SceneNode& cameraNode() const { return *cameraNode_; }
+    const SceneNode& lightNode() const { return *lightNode_; }
+
+private:
+    void buildPlanetNode(std::string_view tsecs, Color color, std::int64_t styleIndex,
+                         std::int64_t surfaceIndex, std::string_view x, std::string_view y,
+                         std::string_view z, std::string_view radius);
+    void setNeedsDisplay() const;
+    DepthRange depthRange() const;
+
+    Scene scene_;
+    std::shared_ptr<SceneNode> cameraNode_;
+    double cameraXFov_ = 45.0;
+    double cameraYFov_ = 45.0;
+    bool cameraOrtho_ = true;
+    bool cameraZrange_ = true;
+    std::shared_ptr<SceneNode> lightNode_;
+
+    // Drag state.
+    Vec3 startVector_;
+    double zPosition_ = 0.0;
+    bool canUpdatePlanet_ = false;
+    std::shared_ptr<SceneNode> currentNode_;
+
+    double viewWidth_ = 960.0;
+    double viewHeight_ = 540.0;
+    SceneControllerCalls controller_;
+    std::function<void()> needsDisplay_;
+
+    // The near/far range is a function of the scene; recomputed when the scene changed.
+    mutable DepthRange cachedRange_;
+    mutable std::uint64_t cachedRangeRevision_ = 0;
+    mutable bool cachedRangeValid_ = false;
+};
+
+} // namespace orrery

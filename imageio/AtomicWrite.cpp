@@ -1,0 +1,28 @@
+#include "imageio/AtomicWrite.h"
+
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace orrery::imageio {
+
+std::string writeFileAtomically(const std::string& path, std::span<const std::uint8_t> bytes) {
+    const QString name = QString::fromStdString(path);
+    // QSaveFile would report a folder at the path only when renaming; say it plainly.
+    if (QFileInfo(name).isDir())
+        return "a folder is in the way";
+    QSaveFile file(name);
+    if (!file.open(QIODevice::WriteOnly))
+        return file.errorString().toStdString();
+    const auto size = static_cast<qint64>(bytes.size());
+    if (file.write(reinterpret_cast<const char*>(bytes.data()), size) != size) {
+        const std::string reason = file.errorString().toStdString();
+        file.cancelWriting();
+        return reason;
+    }
+    // commit() syncs the temporary file to disk before it renames it over the target.
+    if (!file.commit())
+        return file.errorString().toStdString();
+    return {};
+}
+
+} // namespace orrery::imageio

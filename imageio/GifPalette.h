@@ -1,0 +1,31 @@
+#pragma once
+
+#include "core/styles/Image.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace orrery::imageio {
+
+struct PaletteColor {
+    std::uint8_t red = 0;
+    std::uint8_t green = 0;
+    std::uint8_t blue = 0;
+};
+
+// A picture reduced to a palette of at most 256 colours: one index per pixel, rows top
+// first, and the index that stands for fully transparent pixels, if there are any.
+struct IndexedImage {
+    std::vector<PaletteColor> palette;
+    std::vector<std::uint8_t> indices;
+    std::optional<std::uint8_t> transparentIndex;
+};
+
+// Quantises with libimagequant (alpha-aware, dithered). Fails with a reason only when the
+// library does.
+std::optional<IndexedImage> quantizeForGif(const Image& image, std::string& error);
+
+} // namespace orrery::imageio

@@ -1,0 +1,66 @@
+#include "imageio/ImageFile.h"
+
+#include "imageio/AtomicWrite.h"
+#include "imageio/ImageEncoder.h"
+#include "imageio/Jpeg2000Decoder.h"
+#include "imageio/QtImageWrap.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+
+namespace orrery::imageio {
+namespace {
+
+// No picture this program reads comes near this; anything bigger is not a picture of ours.
+constexpr qint64 kMaxFileSize = qint64{1} << 30;
+
+} // namespace
+
+std::string writeImageFile(const Image& image, const std::string& path, ExportFormat format,
+                           float compression) {
+    const EncodedImage encoded = encodeImage(image, format, compression);
+    if (!encoded.ok())
+        return encoded.error;
+    return writeFileAtomically(path, encoded.bytes);
+}
+
+std::string exportImages1(const Image& image, const std::string& path, long formatNumber,
+                          float compression) {
+    const std::optional<ExportFormat> format = formatForNumber(formatNumber);
+    if (!format)
+        return "there is no picture format number " + std::to_string(formatNumber);
+    return writeImageFile(image, path, *format, compression);
+}
+
+std::optional<Image> readImageFile(const std::string& path, std::string& error) {
+    QFile file(QString::fromStdString(path));
+    if (QFileInfo(file).isDir()) {
+        error = "a folder, not a picture";
+        return std::nullopt;
+    }
+    if (!file.open(QIODevice::ReadOnly)) {
+        error = file.errorString().toStdString();
+        return std::nullopt;
+    }
+    if (file.size() > kMaxFileSize) {
+        error = "the file is too large for a picture";
+        return std::nullopt;
+    }
+    QByteArray bytes = file.readAll();
+    std::vector<std::uint8_t> data(bytes.begin(), bytes.end());
+    // Qt has no JPEG 2000 reader; OpenJPEG reads what we write.
+    if (looksLikeJpeg2000(data))
+        return decodeJpeg2000(std::move(data), error);
+
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    const std::optional<Image> image = imageFromQImage(reader.read());
+    if (!image)
+        error = "not a readable picture (" + reader.errorString().toStdString() + ")";
+    return image;
+}
+
+} // namespace orrery::imageio

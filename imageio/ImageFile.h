@@ -1,0 +1,30 @@
+#pragma once
+
+#include "core/export/ExportFormat.h"
+#include "core/styles/Image.h"
+
+#include <optional>
+#include <string>
+
+namespace orrery::imageio {
+
+// Encodes the picture and writes it to path in one step: the file appears whole or not at
+// all, and a file already at path survives a failure untouched. Returns an empty text on
+// success, else the reason (without the path), for instance "Permission denied".
+std::string writeImageFile(const Image& image, const std::string& path, ExportFormat format,
+                           float compression);
+
+// The export's writer: format number 1 (BMP) to 6 (TIFF); any other number writes nothing
+// and is reported.
+std::string exportImages1(const Image& image, const std::string& path, long formatNumber,
+                          float compression);
+
+// Reads any picture this program writes (and what Qt reads), straight alpha, top row first.
+// Gives none, with the reason, for a missing, unreadable or damaged file.
+std::optional<Image> readImageFile(const std::string& path, std::string& error);
+inline std::optional<Image> readImageFile(const std::string& path) {
+    std::string ignored;
+    return readImageFile(path, ignored);
+}
+
+} // namespace orrery::imageio

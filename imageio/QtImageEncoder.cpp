@@ -1,0 +1,53 @@
+#include "imageio/QtImageEncoder.h"
+
+#include "imageio/QtImageWrap.h"
+
+#include <QBuffer>
+#include <QImageWriter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace orrery::imageio {
+namespace {
+
+const char* qtFormatName(ExportFormat format) {
+    switch (format) {
+    case ExportFormat::bmp:
+        return "bmp";
+    case ExportFormat::jpeg:
+        return "jpeg";
+    case ExportFormat::png:
+        return "png";
+    case ExportFormat::tiff:
+        return "tiff";
+    case ExportFormat::gif:
+    case ExportFormat::jpeg2000:
+        break;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+EncodedImage encodeWithQt(const Image& image, ExportFormat format, float compression) {
+    const char* name = qtFormatName(format);
+    if (name == nullptr)
+        return EncodedImage::failure("this format is not written by Qt");
+    if (image.isNull())
+        return EncodedImage::failure("the picture is empty");
+
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, name);
+    if (format == ExportFormat::jpeg)
+        writer.setQuality(static_cast<int>(std::lround(std::clamp(compression, 0.0f, 1.0f) * 100)));
+    if (format == ExportFormat::tiff)
+        writer.setCompression(1); // LZW: lossless, and a quarter of the raw size for a scene
+    if (!writer.write(wrapImage(image)))
+        return EncodedImage::failure(writer.errorString().toStdString());
+    return {{bytes.begin(), bytes.end()}, {}};
+}
+
+} // namespace orrery::imageio

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "core/export/ExportFormat.h"
+#include "core/styles/Image.h"
+#include "imageio/EncodedImage.h"
+
+namespace orrery::imageio {
+
+// BMP, JPEG, PNG and TIFF through Qt's image writers. PNG and TIFF keep the alpha channel;
+// BMP and JPEG drop it. JPEG takes the compression factor (0 to 1) as its quality.
+EncodedImage encodeWithQt(const Image& image, ExportFormat format, float compression);
+
+} // namespace orrery::imageio

@@ -1,0 +1,114 @@
+#include "render/Framebuffers.h"
+
+#include <algorithm>
+
+namespace orrery::render {
+namespace {
+
+constexpr int kWantedSamples = 4;
+
+int queryInt(GLenum name) {
+    GLint value = 0;
+    glGetIntegerv(name, &value);
+    return value;
+}
+
+std::string sizeText(int width, int height) {
+    return std::to_string(width) + " x " + std::to_string(height);
+}
+
+// Checks the framebuffer just built; drains errors such as running out of memory.
+bool framebufferComplete(int width, int height, std::string* error) {
+    const GLenum status = glCheckFramebufferStatus(GL_FRAMEBUFFER);
+    GLenum problem = glGetError();
+    bool outOfMemory = false;
+    for (; problem != GL_NO_ERROR; problem = glGetError())
+        outOfMemory = outOfMemory || problem == GL_OUT_OF_MEMORY;
+    if (status == GL_FRAMEBUFFER_COMPLETE && !outOfMemory)
+        return true;
+    if (error != nullptr)
+        *error = outOfMemory
+                     ? "not enough memory for a picture of " + sizeText(width, height) + " pixels"
+                     : "OpenGL cannot draw a picture of " + sizeText(width, height) + " pixels";
+    return false;
+}
+
+} // namespace
+
+bool pictureSizeSupported(int width, int height, std::string* error) {
+    if (width <= 0 || height <= 0) {
+        if (error != nullptr)
+            *error = "a picture of " + sizeText(width, height) + " pixels is empty";
+        return false;
+    }
+    GLint viewport[2] = {0, 0};
+    glGetIntegerv(GL_MAX_VIEWPORT_DIMS, viewport);
+    const int limit = std::min({queryInt(GL_MAX_TEXTURE_SIZE), queryInt(GL_MAX_RENDERBUFFER_SIZE),
+                                static_cast<int>(viewport[0]), static_cast<int>(viewport[1])});
+    if (width <= limit && height <= limit)
+        return true;
+    if (error != nullptr)
+        *error = "a picture of " + sizeText(width, height) +
+                 " pixels is larger than this OpenGL allows (" + std::to_string(limit) +
+                 " pixels a side)";
+    return false;
+}
+
+bool MultisampleCanvas::ensureSize(int width, int height, std::string* error) {
+    if (framebuffer_ && width == width_ && height == height_)
+        return true;
+    if (!pictureSizeSupported(width, height, error))
+        return false;
+    width_ = height_ = 0;
+    samples_ =
+        std::clamp(std::min({queryInt(GL_MAX_SAMPLES), queryInt(GL_MAX_COLOR_TEXTURE_SAMPLES),
+                             queryInt(GL_MAX_DEPTH_TEXTURE_SAMPLES), kWantedSamples}),
+                   1, kMaxSamples);
+
+    color_.create();
+    glBindTexture(GL_TEXTURE_2D_MULTISAMPLE, color_.id());
+    glTexImage2DMultisample(GL_TEXTURE_2D_MULTISAMPLE, samples_, GL_RGBA8, width, height, GL_TRUE);
+    depth_.create();
+    glBindRenderbuffer(GL_RENDERBUFFER, depth_.id());
+    glRenderbufferStorageMultisample(GL_RENDERBUFFER, samples_, GL_DEPTH_COMPONENT24, width,
+                                     height);
+    framebuffer_.create();
+    glBindFramebuffer(GL_FRAMEBUFFER, framebuffer_.id());
+    glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D_MULTISAMPLE,
+                           color_.id(), 0);
+    glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_DEPTH_ATTACHMENT, GL_RENDERBUFFER, depth_.id());
+    if (!framebufferComplete(width, height, error)) {
+        framebuffer_.reset();
+        return false;
+    }
+    // Where the samples lie decides which of them a sphere's edge covers.
+    positions_.fill(0.5f);
+    for (int i = 0; i < samples_; ++i)
+        glGetMultisamplefv(GL_SAMPLE_POSITION, static_cast<GLuint>(i), &positions_[2 * i]);
+    width_ = width;
+    height_ = height;
+    return true;
+}
+
+bool PictureFramebuffer::ensureSize(int width, int height, std::string* error) {
+    if (framebuffer_ && width == width_ && height == height_)
+        return true;
+    if (!pictureSizeSupported(width, height, error))
+        return false;
+    width_ = height_ = 0;
+    color_.create();
+    glBindRenderbuffer(GL_RENDERBUFFER, color_.id());
+    glRenderbufferStorage(GL_RENDERBUFFER, GL_RGBA8, width, height);
+    framebuffer_.create();
+    glBindFramebuffer(GL_FRAMEBUFFER, framebuffer_.id());
+    glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, color_.id());
+    if (!framebufferComplete(width, height, error)) {
+        framebuffer_.reset();
+        return false;
+    }
+    width_ = width;
+    height_ = height;
+    return true;
+}
+
+} // namespace orrery::render

@@ -1,0 +1,85 @@
+#include "render/PlanetInstances.h"
+
+#include "render/GradientRamps.h"
+
+#include <variant>
+
+namespace orrery::render {
+namespace {
+
+// A style without gradient draws a fully transparent texture.
+constexpr Color kNoGradient{0.0, 0.0, 0.0, 0.0};
+
+void setColor(PlanetInstance& instance, const Color& color) {
+    instance.color[0] = static_cast<float>(color.red);
+    instance.color[1] = static_cast<float>(color.green);
+    instance.color[2] = static_cast<float>(color.blue);
+    instance.color[3] = static_cast<float>(color.alpha);
+}
+
+PlanetInstance instanceOf(const Sphere& sphere, Vec3 center, const SurfaceLayerLookup& layerOf) {
+    PlanetInstance instance{};
+    instance.center[0] = static_cast<float>(center.x);
+    instance.center[1] = static_cast<float>(center.y);
+    instance.center[2] = static_cast<float>(center.z);
+    instance.radius = static_cast<float>(sphere.radius);
+    instance.rampRow = -1.0f;
+    instance.surfaceLayer = -1.0f;
+    if (!sphere.material) {
+        setColor(instance, kWhite);
+        return instance;
+    }
+    const Material& material = *sphere.material;
+    if (const auto* gradient = std::get_if<GradientTexture>(&material.diffuse)) {
+        const int row = gradientRampRow(gradient->style);
+        instance.rampRow = static_cast<float>(row);
+        setColor(instance, row < 0 ? kNoGradient : kWhite);
+    } else {
+        setColor(instance, std::get<Color>(material.diffuse));
+    }
+    if (!material.emission.empty())
+        instance.surfaceLayer = static_cast<float>(layerOf(material.emission));
+    return instance;
+}
+
+void collect(const SceneNode& node, Vec3 origin, Vec3 eye, const SurfaceLayerLookup& layerOf,
+             std::vector<PlanetInstance>& instances) {
+    for (const auto& child : node.children()) {
+        if (child->isHidden())
+            continue;
+        const Vec3 world = origin + child->position();
+        const auto& sphere = child->sphere();
+        if (sphere && sphere->radius > 0.0)
+            instances.push_back(instanceOf(*sphere, world - eye, layerOf));
+        if (child->childCount() > 0)
+            collect(*child, world, eye, layerOf, instances);
+    }
+}
+
+std::optional<SceneLight> firstLight(const SceneNode& node, Vec3 origin) {
+    for (const auto& child : node.children()) {
+        if (child->isHidden())
+            continue;
+        const Vec3 world = origin + child->position();
+        if (child->light())
+            return SceneLight{world, child->light()->color};
+        if (child->childCount() > 0)
+            if (auto light = firstLight(*child, world))
+                return light;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+void collectPlanetInstances(const SceneNode& root, Vec3 eye, const SurfaceLayerLookup& layerOf,
+                            std::vector<PlanetInstance>& instances) {
+    instances.clear();
+    collect(root, root.position(), eye, layerOf, instances);
+}
+
+std::optional<SceneLight> findLight(const SceneNode& root) {
+    return firstLight(root, root.position());
+}
+
+} // namespace orrery::render

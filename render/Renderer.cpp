@@ -1,0 +1,355 @@
+#include "render/Renderer.h"
+
+#include "render/Framebuffers.h"
+#include "render/GlObject.h"
+#include "render/GradientRamps.h"
+#include "render/PlanetInstances.h"
+#include "render/PlanetShaders.h"
+#include "render/ShaderProgram.h"
+#include "render/SurfaceTextures.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <utility>
+#include <vector>
+
+namespace orrery {
+namespace render {
+namespace {
+
+constexpr int kRampUnit = 0;
+constexpr int kSurfaceUnit = 1;
+constexpr int kCanvasUnit = 0;
+
+double srgbToLinear(double c) {
+    return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+}
+
+std::array<float, 16> toFloats(const std::array<double, 16>& matrix) {
+    std::array<float, 16> floats{};
+    std::transform(matrix.begin(), matrix.end(), floats.begin(),
+                   [](double value) { return static_cast<float>(value); });
+    return floats;
+}
+
+const char* glText(GLenum name) {
+    const auto* text = reinterpret_cast<const char*>(glGetString(name));
+    return text != nullptr ? text : "?";
+}
+
+struct PlanetUniforms {
+    GLint projection = -1;
+    GLint viewport = -1;
+    GLint ndcToRay = -1;
+    GLint sampleCount = -1;
+    GLint samplePositions = -1;
+    GLint lightPosition = -1;
+    GLint lightColor = -1;
+    GLint gradientRamps = -1;
+    GLint gradientRampCount = -1;
+    GLint surfaces = -1;
+};
+
+struct ComposeUniforms {
+    GLint canvas = -1;
+    GLint sampleCount = -1;
+};
+
+GlObject makeGradientRampTexture() {
+    GlObject texture(GlObject::Kind::texture);
+    texture.create();
+    const std::vector<std::uint8_t> pixels = gradientRampPixels();
+    glBindTexture(GL_TEXTURE_2D, texture.id());
+    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
+    glTexImage2D(GL_TEXTURE_2D, 0, GL_SRGB8_ALPHA8, kGradientRampLength, kGradientRampCount, 0,
+                 GL_RGBA, GL_UNSIGNED_BYTE, pixels.data());
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
+    return texture;
+}
+
+} // namespace
+
+// Everything the renderer keeps between frames. Planet data is rebuilt only when the
+// scene (or the eye) changed; a frame itself allocates nothing.
+class RendererState {
+public:
+    explicit RendererState(SurfaceSource source) : surfaces(std::move(source)) {}
+
+    bool build(std::string* error);
+    bool render(const Scene& scene, const CameraProjection& camera, GLuint target, int width,
+                int height, std::string* error);
+    std::optional<Image> renderImage(const Scene& scene, const CameraProjection& camera, int width,
+                                     int height, std::string* error);
+    std::string description() const;
+    void forgetScene() { sceneId = 0; }
+
+    SurfaceTextures surfaces;
+
+private:
+    void refreshPlanets(const Scene& scene, Vec3 eye);
+    void uploadInstances();
+    void drawPlanets(const CameraProjection& camera, int width, int height);
+    void compose(GLuint target, int width, int height);
+
+    int glslVersion = 330;
+    bool sampleMask = false;
+    GlObject planetProgram{GlObject::Kind::program};
+    GlObject composeProgram{GlObject::Kind::program};
+    PlanetUniforms planet;
+    ComposeUniforms composing;
+    GlObject planetVertices{GlObject::Kind::vertexArray};
+    GlObject composeVertices{GlObject::Kind::vertexArray};
+    GlObject instanceBuffer{GlObject::Kind::buffer};
+    std::size_t instanceBufferBytes = 0;
+    GlObject gradientRamps{GlObject::Kind::texture};
+    MultisampleCanvas canvas;
+    PictureFramebuffer picture;
+
+    std::vector<PlanetInstance> instances;
+    std::optional<SceneLight> light;
+    std::uint64_t sceneId = 0;
+    std::uint64_t sceneRevision = 0;
+    Vec3 sceneEye;
+};
+
+bool RendererState::build(std::string* error) {
+    const int version = epoxy_gl_version();
+    if (version < 33) {
+        if (error != nullptr)
+            *error = std::string("OpenGL 3.3 or later is needed; the context offers ") +
+                     glText(GL_VERSION);
+        return false;
+    }
+    const bool extension = epoxy_has_gl_extension("GL_ARB_sample_shading");
+    glslVersion = version >= 40 ? 400 : 330;
+    sampleMask = version >= 40 || extension;
+
+    auto planetShaders =
+        buildProgram(planetVertexShader(glslVersion),
+                     planetFragmentShader(glslVersion, sampleMask, version < 40), error);
+    auto composeShaders =
+        buildProgram(composeVertexShader(glslVersion), composeFragmentShader(glslVersion), error);
+    if (!planetShaders || !composeShaders)
+        return false;
+    planetProgram = std::move(*planetShaders);
+    composeProgram = std::move(*composeShaders);
+
+    const GLuint p = planetProgram.id();
+    planet.projection = glGetUniformLocation(p, "projection");
+    planet.viewport = glGetUniformLocation(p, "viewport");
+    planet.ndcToRay = glGetUniformLocation(p, "ndcToRay");
+    planet.sampleCount = glGetUniformLocation(p, "sampleCount");
+    planet.samplePositions = glGetUniformLocation(p, "samplePositions");
+    planet.lightPosition = glGetUniformLocation(p, "lightPosition");
+    planet.lightColor = glGetUniformLocation(p, "lightColor");
+    planet.gradientRamps = glGetUniformLocation(p, "gradientRamps");
+    planet.gradientRampCount = glGetUniformLocation(p, "gradientRampCount");
+    planet.surfaces = glGetUniformLocation(p, "surfaces");
+    composing.canvas = glGetUniformLocation(composeProgram.id(), "canvas");
+    composing.sampleCount = glGetUniformLocation(composeProgram.id(), "sampleCount");
+
+    instanceBuffer.create();
+    planetVertices.create();
+    glBindVertexArray(planetVertices.id());
+    glBindBuffer(GL_ARRAY_BUFFER, instanceBuffer.id());
+    constexpr auto stride = static_cast<GLsizei>(sizeof(PlanetInstance));
+    const auto attribute = [](GLuint index, GLint size, std::size_t offset) {
+        glEnableVertexAttribArray(index);
+        glVertexAttribPointer(index, size, GL_FLOAT, GL_FALSE, stride,
+                              reinterpret_cast<const void*>(offset));
+        glVertexAttribDivisor(index, 1);
+    };
+    attribute(0, 4, offsetof(PlanetInstance, center));
+    attribute(1, 4, offsetof(PlanetInstance, color));
+    attribute(2, 2, offsetof(PlanetInstance, rampRow));
+    glBindVertexArray(0);
+    composeVertices.create();
+
+    gradientRamps = makeGradientRampTexture();
+    return true;
+}
+
+void RendererState::refreshPlanets(const Scene& scene, Vec3 eye) {
+    if (scene.id() == sceneId && scene.revision() == sceneRevision && eye == sceneEye)
+        return;
+    surfaces.beginScene();
+    collectPlanetInstances(
+        scene.rootNode(), eye, [this](const std::string& name) { return surfaces.layerOf(name); },
+        instances);
+    surfaces.endScene();
+    light = findLight(scene.rootNode());
+    uploadInstances();
+    sceneId = scene.id();
+    sceneRevision = scene.revision();
+    sceneEye = eye;
+}
+
+void RendererState::uploadInstances() {
+    const std::size_t bytes = instances.size() * sizeof(PlanetInstance);
+    glBindBuffer(GL_ARRAY_BUFFER, instanceBuffer.id());
+    if (bytes > instanceBufferBytes) {
+        // Room to grow, so that adding planets one by one does not reallocate each time.
+        instanceBufferBytes = bytes + bytes / 2;
+        glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(instanceBufferBytes), nullptr,
+                     GL_DYNAMIC_DRAW);
+    }
+    if (bytes > 0)
+        glBufferSubData(GL_ARRAY_BUFFER, 0, static_cast<GLsizeiptr>(bytes), instances.data());
+}
+
+void RendererState::drawPlanets(const CameraProjection& camera, int width, int height) {
+    glBindFramebuffer(GL_FRAMEBUFFER, canvas.framebuffer());
+    glViewport(0, 0, width, height);
+    glDisable(GL_SCISSOR_TEST);
+    glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+    glDepthMask(GL_TRUE);
+    glClearColor(0.0f, 0.0f, 0.0f, 0.0f);
+    glClearDepth(1.0);
+    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+    if (instances.empty())
+        return;
+
+    glEnable(GL_DEPTH_TEST);
+    glDepthFunc(GL_LESS);
+    glEnable(GL_BLEND);
+    glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA); // the canvas holds premultiplied colour
+    glDisable(GL_CULL_FACE);
+    glEnable(GL_MULTISAMPLE);
+
+    glUseProgram(planetProgram.id());
+    const auto projection = toFloats(camera.matrix());
+    glUniformMatrix4fv(planet.projection, 1, GL_FALSE, projection.data());
+    glUniform4f(planet.viewport, 0.0f, 0.0f, static_cast<float>(width), static_cast<float>(height));
+    glUniform2f(planet.ndcToRay, static_cast<float>(camera.ndcToRayX()),
+                static_cast<float>(camera.ndcToRayY()));
+    glUniform1i(planet.sampleCount, canvas.samples());
+    glUniform2fv(planet.samplePositions, MultisampleCanvas::kMaxSamples,
+                 canvas.samplePositions().data());
+    const Vec3 eye = camera.eye();
+    const Vec3 lightOffset = light ? light->position - eye : Vec3{};
+    glUniform3f(planet.lightPosition, static_cast<float>(lightOffset.x),
+                static_cast<float>(lightOffset.y), static_cast<float>(lightOffset.z));
+    const Color lightColor = light ? light->color : Color{0.0, 0.0, 0.0, 1.0};
+    glUniform3f(planet.lightColor, static_cast<float>(srgbToLinear(lightColor.red)),
+                static_cast<float>(srgbToLinear(lightColor.green)),
+                static_cast<float>(srgbToLinear(lightColor.blue)));
+    glUniform1i(planet.gradientRamps, kRampUnit);
+    glUniform1f(planet.gradientRampCount, static_cast<float>(kGradientRampCount));
+    glUniform1i(planet.surfaces, kSurfaceUnit);
+    glActiveTexture(GL_TEXTURE0 + kRampUnit);
+    glBindTexture(GL_TEXTURE_2D, gradientRamps.id());
+    glActiveTexture(GL_TEXTURE0 + kSurfaceUnit);
+    glBindTexture(GL_TEXTURE_2D_ARRAY, surfaces.texture());
+
+    glBindVertexArray(planetVertices.id());
+    glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, static_cast<GLsizei>(instances.size()));
+    glBindVertexArray(0);
+    glActiveTexture(GL_TEXTURE0);
+}
+
+void RendererState::compose(GLuint target, int width, int height) {
+    glBindFramebuffer(GL_FRAMEBUFFER, target);
+    glViewport(0, 0, width, height);
+    glDisable(GL_DEPTH_TEST);
+    glDisable(GL_BLEND);
+    glUseProgram(composeProgram.id());
+    glUniform1i(composing.canvas, kCanvasUnit);
+    glUniform1i(composing.sampleCount, canvas.samples());
+    glActiveTexture(GL_TEXTURE0 + kCanvasUnit);
+    glBindTexture(GL_TEXTURE_2D_MULTISAMPLE, canvas.colorTexture());
+    glBindVertexArray(composeVertices.id());
+    glDrawArrays(GL_TRIANGLES, 0, 3);
+    glBindVertexArray(0);
+    glUseProgram(0);
+}
+
+bool RendererState::render(const Scene& scene, const CameraProjection& camera, GLuint target,
+                           int width, int height, std::string* error) {
+    // Errors left over from whoever used the context before are not ours to report.
+    while (glGetError() != GL_NO_ERROR) {
+    }
+    if (!canvas.ensureSize(width, height, error))
+        return false;
+    refreshPlanets(scene, camera.eye());
+    drawPlanets(camera, width, height);
+    compose(target, width, height);
+    if (const GLenum problem = glGetError(); problem != GL_NO_ERROR) {
+        if (error != nullptr)
+            *error = problem == GL_OUT_OF_MEMORY
+                         ? "OpenGL ran out of memory while drawing"
+                         : "OpenGL failed while drawing (error " + std::to_string(problem) + ")";
+        return false;
+    }
+    return true;
+}
+
+std::optional<Image> RendererState::renderImage(const Scene& scene, const CameraProjection& camera,
+                                                int width, int height, std::string* error) {
+    if (!picture.ensureSize(width, height, error))
+        return std::nullopt;
+    if (!render(scene, camera, picture.framebuffer(), width, height, error))
+        return std::nullopt;
+    Image image(width, height);
+    glBindFramebuffer(GL_READ_FRAMEBUFFER, picture.framebuffer());
+    glPixelStorei(GL_PACK_ALIGNMENT, 1);
+    glReadPixels(0, 0, width, height, GL_RGBA, GL_UNSIGNED_BYTE, image.pixels.data());
+    glBindFramebuffer(GL_READ_FRAMEBUFFER, 0);
+    // OpenGL reads bottom row first.
+    for (int top = 0, bottom = height - 1; top < bottom; ++top, --bottom)
+        std::swap_ranges(image.pixel(0, top), image.pixel(0, top) + image.stride(),
+                         image.pixel(0, bottom));
+    return image;
+}
+
+std::string RendererState::description() const {
+    return std::string(glText(GL_RENDERER)) + ", OpenGL " + glText(GL_VERSION) + ", " +
+           std::to_string(canvas.samples()) + " samples" +
+           (sampleMask ? ", coverage per sample" : ", coverage per pixel");
+}
+
+} // namespace render
+
+Renderer::Renderer(std::unique_ptr<render::RendererState> state) : state_(std::move(state)) {}
+Renderer::~Renderer() = default;
+
+std::unique_ptr<Renderer> Renderer::create(SurfaceSource surfaces, std::string* error) {
+    auto state = std::make_unique<render::RendererState>(std::move(surfaces));
+    if (!state->build(error))
+        return nullptr;
+    return std::unique_ptr<Renderer>(new Renderer(std::move(state)));
+}
+
+bool Renderer::render(const SceneView& view, unsigned framebuffer, int width, int height,
+                      std::string* error) {
+    return render(view.scene(), view.projection(width, height), framebuffer, width, height, error);
+}
+
+bool Renderer::render(const Scene& scene, const CameraProjection& camera, unsigned framebuffer,
+                      int width, int height, std::string* error) {
+    return state_->render(scene, camera, framebuffer, width, height, error);
+}
+
+std::optional<Image> Renderer::renderImage(const SceneView& view, int width, int height,
+                                           std::string* error) {
+    return renderImage(view.scene(), view.projection(width, height), width, height, error);
+}
+
+std::optional<Image> Renderer::renderImage(const Scene& scene, const CameraProjection& camera,
+                                           int width, int height, std::string* error) {
+    return state_->renderImage(scene, camera, width, height, error);
+}
+
+void Renderer::reloadSurfaces() {
+    state_->surfaces.clear();
+    state_->forgetScene();
+}
+
+std::string Renderer::description() const {
+    return state_->description();
+}
+
+} // namespace orrery

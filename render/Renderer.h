@@ -1,0 +1,57 @@
+#pragma once
+
+#include "core/scene/CameraProjection.h"
+#include "core/scene/Scene.h"
+#include "core/scene/SceneView.h"
+#include "core/styles/Image.h"
+#include "render/SurfaceSource.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+// No OpenGL header here: the window includes this next to its toolkit's own GL headers.
+namespace orrery {
+
+namespace render {
+class RendererState;
+}
+
+// Draws a planet scene with OpenGL 3.3 core (or later) into whatever context is current:
+// exact spheres, one omnidirectional light, gradient or colour diffuse, surface emission,
+// 4x multisampling, transparent where no planet is. Every call needs the context the
+// renderer was made in to be current, and so does destroying it.
+class Renderer {
+public:
+    // None, with the reason in `error`, when the current context cannot do the work.
+    static std::unique_ptr<Renderer> create(SurfaceSource surfaces, std::string* error);
+    ~Renderer();
+    Renderer(const Renderer&) = delete;
+    Renderer& operator=(const Renderer&) = delete;
+
+    // Draws into a framebuffer (0 is the context's default one), covering width x height
+    // pixels from its bottom-left corner, with straight alpha. The camera sees what the
+    // view's camera sees, at the aspect ratio of the pixels.
+    bool render(const SceneView& view, unsigned framebuffer, int width, int height,
+                std::string* error = nullptr);
+    bool render(const Scene& scene, const CameraProjection& camera, unsigned framebuffer, int width,
+                int height, std::string* error = nullptr);
+
+    // The picture at width x height pixels: top row first, straight alpha.
+    std::optional<Image> renderImage(const SceneView& view, int width, int height,
+                                     std::string* error = nullptr);
+    std::optional<Image> renderImage(const Scene& scene, const CameraProjection& camera, int width,
+                                     int height, std::string* error = nullptr);
+
+    // Asks the surface source again for every surface (its images changed).
+    void reloadSurfaces();
+
+    // The OpenGL renderer and what the renderer uses of it, for logs and benchmarks.
+    std::string description() const;
+
+private:
+    explicit Renderer(std::unique_ptr<render::RendererState> state);
+    std::unique_ptr<render::RendererState> state_;
+};
+
+} // namespace orrery

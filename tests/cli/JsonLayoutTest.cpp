@@ -1,0 +1,34 @@
+#include "cli/JsonLayout.h"
+
+#include <gtest/gtest.h>
+
+namespace orrery::cli {
+namespace {
+
+TEST(JsonLayout, PlainListsStayOnOneLine) {
+    const nlohmann::ordered_json value = nlohmann::ordered_json::parse(
+        R"({"b": "x", "a": {"color": [1.0, 0.5], "empty": [], "none": {}},
+            "list": [{"n": 1}, {"n": 2}]})");
+    EXPECT_EQ(layOutJson(value), R"({
+  "b": "x",
+  "a": {
+    "color": [1.0, 0.5],
+    "empty": [],
+    "none": {}
+  },
+  "list": [
+    {
+      "n": 1
+    },
+    {
+      "n": 2
+    }
+  ]
+}
+)");
+    // Reading it back gives the same value, member order included.
+    EXPECT_EQ(nlohmann::ordered_json::parse(layOutJson(value)), value);
+}
+
+} // namespace
+} // namespace orrery::cli

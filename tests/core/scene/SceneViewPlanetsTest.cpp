@@ -1,0 +1,166 @@
+#include "core/scene/PlanetNodes.h"
+#include "core/scene/SceneView.h"
+
+#include <gtest/gtest.h>
+
+#include <variant>
+
+namespace orrery {
+namespace {
+
+constexpr Color kRed{1.0, 0.0, 0.0, 1.0};
+
+std::vector<std::string> childNames(const SceneView& view) {
+    std::vector<std::string> names;
+    for (const auto& child : view.scene().rootNode().children())
+        names.push_back(child->name());
+    return names;
+}
+
+const SceneNode& onlyNode(const SceneView& view, const std::string& name) {
+    const auto nodes = view.scene().rootNode().childNodesNamed(name);
+    EXPECT_EQ(nodes.size(), 1u) << name;
+    return *nodes.at(0);
+}
+
+TEST(PlanetNodes, Names) {
+    EXPECT_EQ(planetNodeName("1424700000"), "planet1424700000");
+    EXPECT_EQ(planetNodeName(""), "planet");
+}
+
+TEST(PlanetNodes, MaterialRules) {
+    // No surface: no material at all, whatever the style.
+    EXPECT_FALSE(planetMaterial(kRed, 7, 0, 24.0f).has_value());
+    EXPECT_FALSE(planetMaterial(kRed, 0, -3, 24.0f).has_value());
+
+    const auto coloured = planetMaterial(kRed, 0, 3, 24.0f);
+    ASSERT_TRUE(coloured.has_value());
+    EXPECT_EQ(std::get<Color>(coloured->diffuse), kRed);
+    EXPECT_EQ(coloured->emission, "Surface003");
+
+    EXPECT_EQ(planetMaterial(kRed, 0, 48, 24.0f)->emission, "Surface048");
+    EXPECT_EQ(planetMaterial(kRed, 0, 1000, 24.0f)->emission, "Surface1000");
+
+    const auto styled = planetMaterial(kRed, 5, 12, 10.0f);
+    ASSERT_TRUE(styled.has_value());
+    const auto& gradient = std::get<GradientTexture>(styled->diffuse);
+    EXPECT_EQ(gradient.style, 5);
+    EXPECT_EQ(gradient.width, 62.83185307179586);
+    EXPECT_EQ(gradient.height, gradient.width);
+    EXPECT_EQ(gradient.angle, 270.0);
+    EXPECT_EQ(styled->emission, "Surface012");
+
+    // The side comes from the single-precision radius, widened before multiplying.
+    const auto odd = planetMaterial(kRed, 1, 1, 0.1f);
+    EXPECT_EQ(std::get<GradientTexture>(odd->diffuse).width,
+              static_cast<double>(0.1f) * 6.283185307179586);
+}
+
+TEST(SceneViewPlanets, CreatePlanetMakesAPlainWhiteSphereFromTexts) {
+    SceneView view;
+    view.createPlanet("1424700000", "10", "-5", "0", "24");
+    const SceneNode& node = onlyNode(view, "planet1424700000");
+    EXPECT_EQ(node.position(), (Vec3{10, -5, 0}));
+    ASSERT_TRUE(node.sphere().has_value());
+    EXPECT_EQ(node.sphere()->radius, 24.0);
+    EXPECT_FALSE(node.sphere()->material.has_value());
+    EXPECT_FALSE(node.isHidden());
+    EXPECT_EQ(node.parent(), &view.scene().rootNode());
+    // Appended after the camera and the light.
+    EXPECT_EQ(childNames(view).back(), "planet1424700000");
+}
+
+TEST(SceneViewPlanets, TextsAreReadAsLeadingSinglePrecisionNumbers) {
+    SceneView view;
+    view.createPlanet("1", "  12abc", "abc", "0.1", "-");
+    const SceneNode& node = onlyNode(view, "planet1");
+    EXPECT_EQ(node.position().x, 12.0);
+    EXPECT_EQ(node.position().y, 0.0);
+    EXPECT_EQ(node.position().z, static_cast<double>(0.1f));
+    EXPECT_EQ(node.sphere()->radius, 0.0);
+}
+
+TEST(SceneViewPlanets, CreatePlanet2AppliesTheMaterialRules) {
+    SceneView view;
+    view.createPlanet2("1", kRed, 7, 0, "0", "0", "0", "24");
+    view.createPlanet2("2", kRed, 0, 3, "0", "0", "0", "24");
+    view.createPlanet2("3", kRed, 5, 12, "1", "2", "3", "10");
+    EXPECT_FALSE(onlyNode(view, "planet1").sphere()->material.has_value());
+    EXPECT_EQ(onlyNode(view, "planet2").sphere()->material, planetMaterial(kRed, 0, 3, 24.0f));
+    const SceneNode& styled = onlyNode(view, "planet3");
+    EXPECT_EQ(styled.sphere()->material, planetMaterial(kRed, 5, 12, 10.0f));
+    EXPECT_EQ(styled.position(), (Vec3{1, 2, 3}));
+}
+
+TEST(SceneViewPlanets, SameNameNodesAreAlwaysTreatedTogether) {
+    SceneView view;
+    view.createPlanet("7", "0", "0", "0", "24");
+    view.createPlanet("7", "5", "0", "0", "24");
+    view.createPlanet("77", "0", "0", "0", "24");
+    view.updateStatus("7", 0);
+    for (const auto& node : view.scene().rootNode().childNodesNamed("planet7"))
+        EXPECT_TRUE(node->isHidden());
+    EXPECT_FALSE(onlyNode(view, "planet77").isHidden());
+
+    view.updatePlanet("7", kRed, 0, 2, "9", "9", "9", "3");
+    const auto updated = view.scene().rootNode().childNodesNamed("planet7");
+    ASSERT_EQ(updated.size(), 2u);
+    for (const auto& node : updated) {
+        EXPECT_EQ(node->position(), (Vec3{9, 9, 9}));
+        EXPECT_FALSE(node->isHidden()); // replacing shows the planet again
+    }
+    // The new nodes went to the end, after the untouched planet.
+    EXPECT_EQ(childNames(view),
+              (std::vector<std::string>{"", "light", "planet77", "planet7", "planet7"}));
+
+    view.deletePlanet("7");
+    EXPECT_EQ(childNames(view), (std::vector<std::string>{"", "light", "planet77"}));
+}
+
+TEST(SceneViewPlanets, UnknownTsecsChangesNothing_AndCameraAndLightNeverMatch) {
+    SceneView view;
+    view.createPlanet("1", "0", "0", "0", "24");
+    const auto before = view.scene().revision();
+    view.updatePlanet("2", kRed, 0, 1, "0", "0", "0", "1");
+    view.updateStatus("2", 0);
+    view.deletePlanet("2");
+    view.deletePlanet("");      // "planet" names no node: the camera has no name
+    view.deletePlanet("light"); // "planetlight" is not "light"
+    EXPECT_EQ(view.scene().revision(), before);
+    EXPECT_EQ(view.scene().rootNode().childCount(), 3u);
+}
+
+TEST(SceneViewPlanets, OnlyStateZeroHides) {
+    SceneView view;
+    view.createPlanet("1", "0", "0", "0", "24");
+    view.updateStatus("1", 0);
+    EXPECT_TRUE(onlyNode(view, "planet1").isHidden());
+    view.updateStatus("1", 2);
+    EXPECT_FALSE(onlyNode(view, "planet1").isHidden());
+    view.updateStatus("1", 0);
+    view.updateStatus("1", -1);
+    EXPECT_FALSE(onlyNode(view, "planet1").isHidden());
+}
+
+TEST(SceneViewPlanets, EveryChangeAsksForARedraw) {
+    SceneView view;
+    int redraws = 0;
+    view.setNeedsDisplayHandler([&] { ++redraws; });
+    view.createPlanet("1", "0", "0", "0", "24");
+    EXPECT_EQ(redraws, 1);
+    view.createPlanet2("2", kRed, 1, 1, "0", "0", "0", "24");
+    EXPECT_EQ(redraws, 2);
+    view.updatePlanet("1", kRed, 1, 1, "0", "0", "0", "24");
+    EXPECT_EQ(redraws, 3);
+    view.updateStatus("1", 0);
+    EXPECT_EQ(redraws, 4);
+    view.deletePlanet("1");
+    EXPECT_EQ(redraws, 5);
+    view.updateCamera(45, 45, 0, 0, 400, true, true);
+    view.updateLight("1", "2", "3");
+    view.updateLightColor(kRed);
+    EXPECT_EQ(redraws, 8);
+}
+
+} // namespace
+} // namespace orrery

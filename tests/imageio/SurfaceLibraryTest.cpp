@@ -1,0 +1,68 @@
+#include "imageio/SurfaceLibrary.h"
+#include "imageio/ImageFile.h"
+#include "tests/imageio/SamplePicture.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+namespace orrery::imageio {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Points the surface lookup at a folder of its own for the length of a test.
+class SurfaceFolder {
+public:
+    SurfaceFolder() {
+        fs::create_directory(root() / "thumbs");
+        setenv("ORRERY_SURFACE_DIR", folder_.path().toLocal8Bit().constData(), 1);
+    }
+    ~SurfaceFolder() { unsetenv("ORRERY_SURFACE_DIR"); }
+    SurfaceFolder(const SurfaceFolder&) = delete;
+    SurfaceFolder& operator=(const SurfaceFolder&) = delete;
+
+    fs::path root() const { return folder_.path().toStdString(); }
+
+private:
+    QTemporaryDir folder_;
+};
+
+TEST(SurfaceLibrary, LoadsSurfacesAndThumbnailsByNumber) {
+    SurfaceFolder folder;
+    ASSERT_EQ(writeImageFile(Image(64, 32), (folder.root() / "Surface002.png").string(),
+                             ExportFormat::png, 1.0f),
+              "");
+    ASSERT_EQ(writeImageFile(Image(16, 8), (folder.root() / "thumbs" / "Surface002.png").string(),
+                             ExportFormat::png, 1.0f),
+              "");
+    SurfaceLibrary library;
+    const Image* surface = library.surface(2);
+    ASSERT_NE(surface, nullptr);
+    EXPECT_EQ(surface->width, 64);
+    const Image* thumbnail = library.thumbnail(2);
+    ASSERT_NE(thumbnail, nullptr);
+    EXPECT_EQ(thumbnail->width, 16);
+    // Decoded once and kept, whether asked for by number or by name.
+    EXPECT_EQ(library.surface(2), surface);
+    EXPECT_EQ(library.surfaceNamed("Surface002"), surface);
+    for (const char* name : {"Surface2", "Surface0002", "surface002", "Surface002.png"})
+        EXPECT_EQ(library.surfaceNamed(name), nullptr) << name;
+}
+
+TEST(SurfaceLibrary, MissingOrDamagedSurfaceGivesNothing) {
+    SurfaceFolder folder;
+    std::ofstream(folder.root() / "Surface004.png") << "not a picture";
+    SurfaceLibrary library;
+    EXPECT_EQ(library.surface(3), nullptr);
+    EXPECT_EQ(library.surface(4), nullptr);
+    EXPECT_EQ(library.thumbnail(4), nullptr);
+    EXPECT_EQ(library.surface(0), nullptr);
+    EXPECT_EQ(library.surface(-1), nullptr);
+}
+
+} // namespace
+} // namespace orrery::imageio

@@ -1,0 +1,101 @@
+#include "RenderTestSupport.h"
+
+namespace orrery::testing {
+namespace {
+
+constexpr Color kBlue{0.0, 0.0, 1.0, 1.0};
+
+// An equirectangular test surface: four quarters in four colours. Columns are longitude
+// (u), rows latitude from the north pole (v).
+Image quarters(int width, int height) {
+    Image image(width, height);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            const bool east = x >= width / 2;
+            const bool south = y >= height / 2;
+            std::uint8_t* p = image.pixel(x, y);
+            p[0] = !south ? (east ? 0 : 255) : (east ? 255 : 0); // red NW, yellow SE
+            p[1] = !south ? (east ? 255 : 0) : (east ? 255 : 0); // green NE, yellow SE
+            p[2] = south && !east ? 255 : 0;                     // blue SW
+            p[3] = 255;
+        }
+    }
+    return image;
+}
+
+using SurfacePicture = RenderTest;
+
+// With the light behind the planet only the emission shows, so the picture is the surface
+// image itself: the image's middle faces the viewer, its top is the north pole, and it is
+// not mirrored.
+TEST_F(SurfacePicture, SurfaceFacesTheViewerUprightAndUnmirrored) {
+    for (const auto& size : {std::pair{1024, 512}, std::pair{300, 150}}) {
+        surfaces.clear();
+        surfaces["Surface004"] = quarters(size.first, size.second);
+        SceneView view;
+        view.updateLight("0", "0", "-1000");
+        view.createPlanet2("1", kBlue, 0, 4, "0", "0", "0", "100");
+        const Image image = draw(view, 600, 600);
+        const CameraProjection camera = view.projection(600, 600);
+        const auto at = [&](double x, double y) {
+            const double z = std::sqrt(100.0 * 100.0 - x * x - y * y);
+            const Vec3 p = camera.project({x, y, z});
+            return pixelUnder(image, p.x, p.y);
+        };
+        const Rgba northWest = at(-40, 40);
+        const Rgba northEast = at(40, 40);
+        const Rgba southWest = at(-40, -40);
+        const Rgba southEast = at(40, -40);
+        EXPECT_GT(northWest.r, 240);
+        EXPECT_LT(northWest.g + northWest.b, 15);
+        EXPECT_GT(northEast.g, 240);
+        EXPECT_LT(northEast.r + northEast.b, 15);
+        EXPECT_GT(southWest.b, 240);
+        EXPECT_LT(southWest.r + southWest.g, 15);
+        EXPECT_GT(southEast.r, 240);
+        EXPECT_GT(southEast.g, 240);
+        EXPECT_LT(southEast.b, 15);
+    }
+}
+
+TEST_F(SurfacePicture, EmissionIsAddedToTheLitColour) {
+    surfaces["Surface002"] = solidImage(64, 32, {0, 0, 100, 255});
+    SceneView view;
+    view.createPlanet2("1", {1.0, 0.0, 0.0, 1.0}, 0, 2, "0", "0", "0", "24");
+    const Image image = draw(view, 400, 300);
+    const Rgba centre = pixelAt(image, 200, 150);
+    EXPECT_GE(centre.r, 254); // red diffuse facing the light
+    EXPECT_EQ(centre.g, 0);
+    EXPECT_NEAR(centre.b, 100, 2); // plus the blue glow
+}
+
+TEST_F(SurfacePicture, MissingSurfaceImageLeavesNoEmission) {
+    SceneView view;
+    view.updateLight("0", "0", "-1000");
+    view.createPlanet2("1", {1.0, 0.0, 0.0, 1.0}, 0, 9, "0", "0", "0", "24");
+    const Image image = draw(view, 400, 300);
+    const Rgba centre = pixelAt(image, 200, 150);
+    EXPECT_EQ(centre.a, 255);
+    EXPECT_EQ(centre.r + centre.g + centre.b, 0);
+}
+
+TEST_F(SurfacePicture, EachSurfaceIsFetchedOnceForAllItsPlanets) {
+    surfaces["Surface001"] = solidImage(64, 32, {255, 0, 0, 255});
+    surfaces["Surface002"] = solidImage(64, 32, {0, 255, 0, 255});
+    SceneView view;
+    view.updateLight("0", "0", "-1000");
+    for (int i = 0; i < 20; ++i)
+        view.createPlanet2(std::to_string(i), kBlue, 0, 1 + i % 2, std::to_string(-190 + 20 * i),
+                           "0", "0", "8");
+    const Image image = draw(view, 800, 400);
+    draw(view, 800, 400);
+    EXPECT_EQ(surfaceRequests, 2);
+    const CameraProjection camera = view.projection(800, 400);
+    const Vec3 first = camera.project({-190, 0, 8});
+    const Vec3 second = camera.project({-170, 0, 8});
+    EXPECT_GT(pixelUnder(image, first.x, first.y).r, 240);
+    EXPECT_GT(pixelUnder(image, second.x, second.y).g, 240);
+}
+
+} // namespace
+} // namespace orrery::testing
