@@ -30,6 +30,29 @@ std::optional<int> parseQuality(const std::string& text) {
     return quality;
 }
 
+// -o FILE, --scale S or --quality N.
+bool applyValue(const std::string& option, const std::string& value, RenderOptions& options,
+                std::string& error) {
+    if (option == "-o") {
+        options.output = value;
+    } else if (option == "--scale") {
+        const std::optional<double> scale = parseScale(value);
+        if (!scale) {
+            error = "--scale needs a number above 0 and at most 8, not \"" + value + "\"";
+            return false;
+        }
+        options.scale = *scale;
+    } else {
+        const std::optional<int> quality = parseQuality(value);
+        if (!quality) {
+            error = "--quality needs a whole number from 0 to 100, not \"" + value + "\"";
+            return false;
+        }
+        options.quality = *quality;
+    }
+    return true;
+}
+
 } // namespace
 
 int scaledSide(int side, double scale) {
@@ -47,25 +70,9 @@ std::optional<RenderOptions> parseRenderOptions(const std::vector<std::string>& 
                 error = argument + " needs a value";
                 return std::nullopt;
             }
-            const std::string& value = arguments[++i];
-            if (argument == "-o") {
-                options.output = value;
-                haveOutput = true;
-            } else if (argument == "--scale") {
-                const std::optional<double> scale = parseScale(value);
-                if (!scale) {
-                    error = "--scale needs a number above 0 and at most 8, not \"" + value + "\"";
-                    return std::nullopt;
-                }
-                options.scale = *scale;
-            } else {
-                const std::optional<int> quality = parseQuality(value);
-                if (!quality) {
-                    error = "--quality needs a whole number from 0 to 100, not \"" + value + "\"";
-                    return std::nullopt;
-                }
-                options.quality = *quality;
-            }
+            if (!applyValue(argument, arguments[++i], options, error))
+                return std::nullopt;
+            haveOutput = haveOutput || argument == "-o";
         } else if (argument == "--include-background") {
             options.includeBackground = true;
         } else if (argument.size() > 1 && argument.front() == '-') {

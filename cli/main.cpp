@@ -1,7 +1,9 @@
+#include "cli/ExitStatus.h"
 #include "cli/Verbs.h"
 
 #include <filesystem>
 #include <iostream>
+#include <new>
 
 namespace {
 
@@ -18,5 +20,10 @@ int main(int argc, char** argv) {
     const std::string program = std::filesystem::path(argc > 0 ? argv[0] : "orrery").filename();
     if (!orrery::cli::isCommandLine(arguments))
         return openWindow(program);
-    return orrery::cli::runCommandLine(arguments, {program, std::cout, std::cerr});
+    try {
+        return orrery::cli::runCommandLine(arguments, {program, std::cout, std::cerr});
+    } catch (const std::bad_alloc&) {
+        // A picture or a package too large for this machine: say so instead of aborting.
+        return orrery::cli::fail(std::cerr, program, orrery::cli::kCannotWrite, "out of memory");
+    }
 }

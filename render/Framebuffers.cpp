@@ -5,8 +5,6 @@
 namespace orrery::render {
 namespace {
 
-constexpr int kWantedSamples = 4;
-
 int queryInt(GLenum name) {
     GLint value = 0;
     glGetIntegerv(name, &value);
@@ -54,37 +52,28 @@ bool pictureSizeSupported(int width, int height, std::string* error) {
     return false;
 }
 
-bool MultisampleCanvas::ensureSize(int width, int height, std::string* error) {
+bool Canvas::ensureSize(int width, int height, std::string* error) {
     if (framebuffer_ && width == width_ && height == height_)
         return true;
     if (!pictureSizeSupported(width, height, error))
         return false;
     width_ = height_ = 0;
-    samples_ =
-        std::clamp(std::min({queryInt(GL_MAX_SAMPLES), queryInt(GL_MAX_COLOR_TEXTURE_SAMPLES),
-                             queryInt(GL_MAX_DEPTH_TEXTURE_SAMPLES), kWantedSamples}),
-                   1, kMaxSamples);
-
     color_.create();
-    glBindTexture(GL_TEXTURE_2D_MULTISAMPLE, color_.id());
-    glTexImage2DMultisample(GL_TEXTURE_2D_MULTISAMPLE, samples_, GL_RGBA8, width, height, GL_TRUE);
+    glBindTexture(GL_TEXTURE_2D, color_.id());
+    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, width, height, 0, GL_RGBA, GL_UNSIGNED_BYTE, nullptr);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
     depth_.create();
     glBindRenderbuffer(GL_RENDERBUFFER, depth_.id());
-    glRenderbufferStorageMultisample(GL_RENDERBUFFER, samples_, GL_DEPTH_COMPONENT24, width,
-                                     height);
+    glRenderbufferStorage(GL_RENDERBUFFER, GL_DEPTH_COMPONENT24, width, height);
     framebuffer_.create();
     glBindFramebuffer(GL_FRAMEBUFFER, framebuffer_.id());
-    glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D_MULTISAMPLE,
-                           color_.id(), 0);
+    glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, color_.id(), 0);
     glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_DEPTH_ATTACHMENT, GL_RENDERBUFFER, depth_.id());
     if (!framebufferComplete(width, height, error)) {
         framebuffer_.reset();
         return false;
     }
-    // Where the samples lie decides which of them a sphere's edge covers.
-    positions_.fill(0.5f);
-    for (int i = 0; i < samples_; ++i)
-        glGetMultisamplefv(GL_SAMPLE_POSITION, static_cast<GLuint>(i), &positions_[2 * i]);
     width_ = width;
     height_ = height;
     return true;

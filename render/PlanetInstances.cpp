@@ -2,6 +2,7 @@
 
 #include "render/GradientRamps.h"
 
+#include <algorithm>
 #include <variant>
 
 namespace orrery::render {
@@ -42,6 +43,14 @@ PlanetInstance instanceOf(const Sphere& sphere, Vec3 center, const SurfaceLayerL
     return instance;
 }
 
+// The power of the eye with respect to the sphere. For spheres that do not intersect, the
+// one with the smaller power lies on the eye's side of their radical plane, which
+// separates them: any ray from the eye meets it first. Ties keep scene order.
+float power(const PlanetInstance& planet) {
+    const float* c = planet.center;
+    return c[0] * c[0] + c[1] * c[1] + c[2] * c[2] - planet.radius * planet.radius;
+}
+
 void collect(const SceneNode& node, Vec3 origin, Vec3 eye, const SurfaceLayerLookup& layerOf,
              std::vector<PlanetInstance>& instances) {
     for (const auto& child : node.children()) {
@@ -76,6 +85,9 @@ void collectPlanetInstances(const SceneNode& root, Vec3 eye, const SurfaceLayerL
                             std::vector<PlanetInstance>& instances) {
     instances.clear();
     collect(root, root.position(), eye, layerOf, instances);
+    std::stable_sort(
+        instances.begin(), instances.end(),
+        [](const PlanetInstance& a, const PlanetInstance& b) { return power(a) > power(b); });
 }
 
 std::optional<SceneLight> findLight(const SceneNode& root) {

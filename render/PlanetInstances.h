@@ -24,8 +24,9 @@ static_assert(sizeof(PlanetInstance) == 40);
 // Maps a surface image name to its texture layer, -1 when there is no such image.
 using SurfaceLayerLookup = std::function<int(const std::string& surfaceName)>;
 
-// Every sphere that can show (not hidden, no hidden ancestor, radius above 0), in scene
-// order, replacing the contents of `instances` (its capacity is reused).
+// Every sphere that can show (not hidden, no hidden ancestor, radius above 0), farthest
+// first, replacing the contents of `instances` (its capacity is reused). Drawn in this
+// order, a nearer planet's soft edge always blends over the planets behind it.
 void collectPlanetInstances(const SceneNode& root, Vec3 eye, const SurfaceLayerLookup& layerOf,
                             std::vector<PlanetInstance>& instances);
 

@@ -1,21 +1,18 @@
 #include "render/PlanetShaders.h"
 
 namespace orrery::render {
-namespace {
-
-std::string versionLine(int glslVersion) {
-    return "#version " + std::to_string(glslVersion) + " core\n";
-}
 
 // Each planet is a square around the circle where the eye's tangent cone touches the
 // sphere: the square holds the sphere's whole silhouette, and every point of the circle
-// lies on the sphere, so no part of it is nearer than the sphere itself.
-constexpr const char* kPlanetVertex = R"(
+// lies on the sphere, so no part of it is nearer than the sphere itself. It is widened by
+// a pixel and a half so that the soft outer edge of the silhouette is drawn too.
+const char* const kPlanetVertexShader = R"(#version 330 core
 layout(location = 0) in vec4 centerRadius;
 layout(location = 1) in vec4 diffuseColor;
 layout(location = 2) in vec2 layers;
 
 uniform mat4 projection;
+uniform float pixelAngle; // radians per pixel in the middle of the view
 
 flat out vec3 vCenter;
 flat out float vRadius;
@@ -39,7 +36,7 @@ void main() {
     vec3 axis = center / distance;
     float tangent = sqrt(distance2 - radius * radius);
     float along = tangent * tangent / distance;
-    float spread = radius * tangent / distance * 1.02;
+    float spread = radius * tangent / distance + 1.5 * pixelAngle * along;
     vec3 helper = abs(axis.y) < 0.9 ? vec3(0.0, 1.0, 0.0) : vec3(1.0, 0.0, 0.0);
     vec3 right = normalize(cross(helper, axis));
     vec3 up = cross(axis, right);
@@ -49,16 +46,15 @@ void main() {
 }
 )";
 
-// Ray casting per fragment: exact silhouette, depth and normal of a true sphere.
-constexpr const char* kPlanetFragment = R"(
-const int kMaxSamples = 8;
+// Ray casting per pixel: exact silhouette, depth and normal of a true sphere. The edge is
+// smoothed by the share of the pixel the silhouette covers; planets arrive back to front,
+// so a soft edge blends over whatever lies behind it.
+const char* const kPlanetFragmentShader = R"(#version 330 core
 const float kPi = 3.14159265358979;
 
 uniform mat4 projection;
 uniform vec4 viewport;       // x, y, width, height in pixels
 uniform vec2 ndcToRay;
-uniform int sampleCount;
-uniform vec2 samplePositions[kMaxSamples];
 uniform vec3 lightPosition;  // relative to the eye
 uniform vec3 lightColor;     // linear
 uniform sampler2D gradientRamps;
@@ -72,19 +68,6 @@ flat in vec2 vLayers;
 
 layout(location = 0) out vec4 fragColor;
 
-vec3 rayThrough(vec2 windowPosition) {
-    vec2 ndc = (windowPosition - viewport.xy) / viewport.zw * 2.0 - 1.0;
-    return normalize(vec3(ndc * ndcToRay, -1.0));
-}
-
-// Whether a ray from the eye meets the sphere. The miss vector (centre minus the ray's
-// closest point) keeps precision for small spheres far away.
-bool meets(vec3 direction) {
-    float along = dot(direction, vCenter);
-    vec3 miss = vCenter - along * direction;
-    return along > 0.0 && dot(miss, miss) <= vRadius * vRadius;
-}
-
 vec3 srgbToLinear(vec3 c) {
     return mix(c / 12.92, pow((c + 0.055) / 1.055, vec3(2.4)), step(0.04045, c));
 }
@@ -94,16 +77,27 @@ vec3 linearToSrgb(vec3 c) {
 }
 
 void main() {
-    // Shade where the pixel centre's ray meets the sphere; an edge pixel whose centre
-    // misses is shaded at the nearest point of the rim.
-    vec3 direction = rayThrough(gl_FragCoord.xy);
+#ifdef EXP_CONST
+    fragColor = vec4(1.0); return;
+#endif
+#ifdef EXP_CONSTDEPTH
+    fragColor = vec4(1.0); gl_FragDepth = gl_FragCoord.z; return;
+#endif
+    vec2 ndc = (gl_FragCoord.xy - viewport.xy) / viewport.zw * 2.0 - 1.0;
+    vec3 direction = normalize(vec3(ndc * ndcToRay, -1.0));
+    // The miss vector (centre minus the ray's closest point) keeps precision for small
+    // spheres far away.
     float along = dot(direction, vCenter);
     vec3 miss = vCenter - along * direction;
-    float inside = vRadius * vRadius - dot(miss, miss);
-    vec3 normal = inside >= 0.0 ? (-miss - sqrt(inside) * direction) / vRadius
-                                : normalize(-miss);
-    vec3 surfacePoint = vCenter + normal * vRadius;
+    float missDistance = length(miss);
+    float perPixel = length(vec2(dFdx(missDistance), dFdy(missDistance)));
+    float coverage = clamp(0.5 + (vRadius - missDistance) / max(perPixel, 1e-6 * vRadius), 0.0, 1.0);
 
+    // Shade where the ray meets the sphere; beside the rim, at the nearest rim point.
+    float inside = vRadius * vRadius - missDistance * missDistance;
+    vec3 normal = inside > 0.0 ? (-miss - sqrt(inside) * direction) / vRadius
+                               : -miss / max(missDistance, 1e-30);
+    vec3 surfacePoint = vCenter + normal * vRadius;
     vec4 clip = projection * vec4(surfacePoint, 1.0);
     gl_FragDepth = clamp(0.5 * clip.z / clip.w + 0.5, 0.0, 1.0);
 
@@ -120,6 +114,9 @@ void main() {
         slopeU = slopeShifted;
     vec2 slopeV = vec2(dFdx(v), dFdy(v));
 
+    if (coverage <= 0.0 || along <= 0.0)
+        discard;
+
     vec4 diffuse = vec4(srgbToLinear(vColor.rgb), vColor.a);
     if (vLayers.x >= 0.0)
         diffuse = textureLod(gradientRamps, vec2(v, (vLayers.x + 0.5) / gradientRampCount), 0.0);
@@ -135,27 +132,12 @@ void main() {
     float lightDistance = length(toLight);
     float lambert = lightDistance > 0.0 ? max(dot(normal, toLight / lightDistance), 0.0) : 0.0;
     vec3 colour = diffuse.rgb * lightColor * lambert + emission;
-    fragColor = vec4(linearToSrgb(clamp(colour, 0.0, 1.0)) * diffuse.a, diffuse.a);
-
-#ifdef SAMPLE_MASK
-    // Coverage per sample, so that multisampling smooths the silhouette as it would the
-    // edge of real geometry.
-    int mask = 0;
-    vec2 pixelCorner = floor(gl_FragCoord.xy);
-    for (int i = 0; i < sampleCount; ++i)
-        if (meets(rayThrough(pixelCorner + samplePositions[i])))
-            mask |= 1 << i;
-    if (mask == 0)
-        discard;
-    gl_SampleMask[0] = mask;
-#else
-    if (!meets(direction))
-        discard;
-#endif
+    float alpha = diffuse.a * coverage;
+    fragColor = vec4(linearToSrgb(clamp(colour, 0.0, 1.0)) * alpha, alpha);
 }
 )";
 
-constexpr const char* kComposeVertex = R"(
+const char* const kComposeVertexShader = R"(#version 330 core
 void main() {
     // One triangle that covers the whole target.
     vec2 corner = vec2((gl_VertexID & 1) != 0 ? 3.0 : -1.0, (gl_VertexID & 2) != 0 ? 3.0 : -1.0);
@@ -163,47 +145,19 @@ void main() {
 }
 )";
 
-// Averages the samples (the resolve) and divides by alpha once, where the picture leaves
-// the renderer: windows and files take straight alpha.
-constexpr const char* kComposeFragment = R"(
-uniform sampler2DMS canvas;
-uniform int sampleCount;
+// Divides by alpha once, where the picture leaves the renderer: windows and files take
+// straight alpha.
+const char* const kComposeFragmentShader = R"(#version 330 core
+uniform sampler2D canvas;
 
 layout(location = 0) out vec4 pictureColor;
 
 void main() {
-    ivec2 texel = ivec2(gl_FragCoord.xy);
-    vec4 sum = vec4(0.0);
-    for (int i = 0; i < sampleCount; ++i)
-        sum += texelFetch(canvas, texel, i);
-    vec4 premultiplied = sum / float(sampleCount);
+    vec4 premultiplied = texelFetch(canvas, ivec2(gl_FragCoord.xy), 0);
     pictureColor = premultiplied.a > 0.0
                        ? vec4(min(premultiplied.rgb / premultiplied.a, vec3(1.0)), premultiplied.a)
                        : vec4(0.0);
 }
 )";
-
-} // namespace
-
-std::string planetVertexShader(int glslVersion) {
-    return versionLine(glslVersion) + kPlanetVertex;
-}
-
-std::string planetFragmentShader(int glslVersion, bool sampleMask, bool sampleShadingExtension) {
-    std::string source = versionLine(glslVersion);
-    if (sampleMask && sampleShadingExtension)
-        source += "#extension GL_ARB_sample_shading : require\n";
-    if (sampleMask)
-        source += "#define SAMPLE_MASK 1\n";
-    return source + kPlanetFragment;
-}
-
-std::string composeVertexShader(int glslVersion) {
-    return versionLine(glslVersion) + kComposeVertex;
-}
-
-std::string composeFragmentShader(int glslVersion) {
-    return versionLine(glslVersion) + kComposeFragment;
-}
 
 } // namespace orrery::render

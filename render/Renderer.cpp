@@ -9,6 +9,7 @@
 #include "render/SurfaceTextures.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <array>
 #include <cmath>
 #include <utility>
@@ -21,6 +22,7 @@ namespace {
 constexpr int kRampUnit = 0;
 constexpr int kSurfaceUnit = 1;
 constexpr int kCanvasUnit = 0;
+constexpr int kNeededGlVersion = 33;
 
 double srgbToLinear(double c) {
     return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
@@ -40,10 +42,9 @@ const char* glText(GLenum name) {
 
 struct PlanetUniforms {
     GLint projection = -1;
+    GLint pixelAngle = -1;
     GLint viewport = -1;
     GLint ndcToRay = -1;
-    GLint sampleCount = -1;
-    GLint samplePositions = -1;
     GLint lightPosition = -1;
     GLint lightColor = -1;
     GLint gradientRamps = -1;
@@ -53,7 +54,6 @@ struct PlanetUniforms {
 
 struct ComposeUniforms {
     GLint canvas = -1;
-    GLint sampleCount = -1;
 };
 
 GlObject makeGradientRampTexture() {
@@ -95,8 +95,6 @@ private:
     void drawPlanets(const CameraProjection& camera, int width, int height);
     void compose(GLuint target, int width, int height);
 
-    int glslVersion = 330;
-    bool sampleMask = false;
     GlObject planetProgram{GlObject::Kind::program};
     GlObject composeProgram{GlObject::Kind::program};
     PlanetUniforms planet;
@@ -106,7 +104,7 @@ private:
     GlObject instanceBuffer{GlObject::Kind::buffer};
     std::size_t instanceBufferBytes = 0;
     GlObject gradientRamps{GlObject::Kind::texture};
-    MultisampleCanvas canvas;
+    Canvas canvas;
     PictureFramebuffer picture;
 
     std::vector<PlanetInstance> instances;
@@ -117,22 +115,16 @@ private:
 };
 
 bool RendererState::build(std::string* error) {
-    const int version = epoxy_gl_version();
-    if (version < 33) {
+    if (epoxy_gl_version() < kNeededGlVersion) {
         if (error != nullptr)
             *error = std::string("OpenGL 3.3 or later is needed; the context offers ") +
                      glText(GL_VERSION);
         return false;
     }
-    const bool extension = epoxy_has_gl_extension("GL_ARB_sample_shading");
-    glslVersion = version >= 40 ? 400 : 330;
-    sampleMask = version >= 40 || extension;
-
-    auto planetShaders =
-        buildProgram(planetVertexShader(glslVersion),
-                     planetFragmentShader(glslVersion, sampleMask, version < 40), error);
-    auto composeShaders =
-        buildProgram(composeVertexShader(glslVersion), composeFragmentShader(glslVersion), error);
+    std::string fs = kPlanetFragmentShader;
+    if (getenv("EXP")) fs.insert(fs.find('\n') + 1, std::string("#define ") + getenv("EXP") + "\n");
+    auto planetShaders = buildProgram(kPlanetVertexShader, fs, error);
+    auto composeShaders = buildProgram(kComposeVertexShader, kComposeFragmentShader, error);
     if (!planetShaders || !composeShaders)
         return false;
     planetProgram = std::move(*planetShaders);
@@ -140,17 +132,15 @@ bool RendererState::build(std::string* error) {
 
     const GLuint p = planetProgram.id();
     planet.projection = glGetUniformLocation(p, "projection");
+    planet.pixelAngle = glGetUniformLocation(p, "pixelAngle");
     planet.viewport = glGetUniformLocation(p, "viewport");
     planet.ndcToRay = glGetUniformLocation(p, "ndcToRay");
-    planet.sampleCount = glGetUniformLocation(p, "sampleCount");
-    planet.samplePositions = glGetUniformLocation(p, "samplePositions");
     planet.lightPosition = glGetUniformLocation(p, "lightPosition");
     planet.lightColor = glGetUniformLocation(p, "lightColor");
     planet.gradientRamps = glGetUniformLocation(p, "gradientRamps");
     planet.gradientRampCount = glGetUniformLocation(p, "gradientRampCount");
     planet.surfaces = glGetUniformLocation(p, "surfaces");
     composing.canvas = glGetUniformLocation(composeProgram.id(), "canvas");
-    composing.sampleCount = glGetUniformLocation(composeProgram.id(), "sampleCount");
 
     instanceBuffer.create();
     planetVertices.create();
@@ -218,17 +208,14 @@ void RendererState::drawPlanets(const CameraProjection& camera, int width, int h
     glEnable(GL_BLEND);
     glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA); // the canvas holds premultiplied colour
     glDisable(GL_CULL_FACE);
-    glEnable(GL_MULTISAMPLE);
 
     glUseProgram(planetProgram.id());
     const auto projection = toFloats(camera.matrix());
     glUniformMatrix4fv(planet.projection, 1, GL_FALSE, projection.data());
+    glUniform1f(planet.pixelAngle, static_cast<float>(2.0 * camera.ndcToRayY() / height));
     glUniform4f(planet.viewport, 0.0f, 0.0f, static_cast<float>(width), static_cast<float>(height));
     glUniform2f(planet.ndcToRay, static_cast<float>(camera.ndcToRayX()),
                 static_cast<float>(camera.ndcToRayY()));
-    glUniform1i(planet.sampleCount, canvas.samples());
-    glUniform2fv(planet.samplePositions, MultisampleCanvas::kMaxSamples,
-                 canvas.samplePositions().data());
     const Vec3 eye = camera.eye();
     const Vec3 lightOffset = light ? light->position - eye : Vec3{};
     glUniform3f(planet.lightPosition, static_cast<float>(lightOffset.x),
@@ -258,9 +245,8 @@ void RendererState::compose(GLuint target, int width, int height) {
     glDisable(GL_BLEND);
     glUseProgram(composeProgram.id());
     glUniform1i(composing.canvas, kCanvasUnit);
-    glUniform1i(composing.sampleCount, canvas.samples());
     glActiveTexture(GL_TEXTURE0 + kCanvasUnit);
-    glBindTexture(GL_TEXTURE_2D_MULTISAMPLE, canvas.colorTexture());
+    glBindTexture(GL_TEXTURE_2D, canvas.colorTexture());
     glBindVertexArray(composeVertices.id());
     glDrawArrays(GL_TRIANGLES, 0, 3);
     glBindVertexArray(0);
@@ -306,9 +292,7 @@ std::optional<Image> RendererState::renderImage(const Scene& scene, const Camera
 }
 
 std::string RendererState::description() const {
-    return std::string(glText(GL_RENDERER)) + ", OpenGL " + glText(GL_VERSION) + ", " +
-           std::to_string(canvas.samples()) + " samples" +
-           (sampleMask ? ", coverage per sample" : ", coverage per pixel");
+    return std::string(glText(GL_RENDERER)) + ", OpenGL " + glText(GL_VERSION);
 }
 
 } // namespace render

@@ -128,6 +128,7 @@ void hitTestTimes(int planets) {
 
 int main(int argc, char** argv) {
     const bool quick = argc > 1 && std::string(argv[1]) == "--quick";
+    std::setvbuf(stdout, nullptr, _IOLBF, 0); // figures appear as they are measured
     std::string error;
     const auto context = orrery::HeadlessContext::create(&error);
     if (!context) {

@@ -30,5 +30,11 @@ TEST(JsonLayout, PlainListsStayOnOneLine) {
     EXPECT_EQ(nlohmann::ordered_json::parse(layOutJson(value)), value);
 }
 
+TEST(JsonLayout, BrokenTextIsShownNotRefused) {
+    // A damaged package may hold names that are not UTF-8.
+    const nlohmann::ordered_json value = {{"name", "Io\xff"}};
+    EXPECT_EQ(layOutJson(value), "{\n  \"name\": \"Io\xef\xbf\xbd\"\n}\n");
+}
+
 } // namespace
 } // namespace orrery::cli

@@ -23,7 +23,7 @@ std::vector<PlanetInstance> instancesOf(const SceneView& view,
     return instances;
 }
 
-TEST(PlanetInstances, OnePerDrawableSphereInSceneOrder_RelativeToTheEye) {
+TEST(PlanetInstances, OnePerDrawableSphere_RelativeToTheEye) {
     SceneView view;
     view.createPlanet("1", "10", "20", "30", "24");
     view.createPlanet("2", "0", "0", "0", "0");  // radius 0 draws nothing
@@ -33,12 +33,35 @@ TEST(PlanetInstances, OnePerDrawableSphereInSceneOrder_RelativeToTheEye) {
     view.createPlanet("5", "-1", "0", "0", "2.5");
     const auto instances = instancesOf(view);
     ASSERT_EQ(instances.size(), 2u);
-    EXPECT_EQ(instances[0].center[0], 10.0f);
-    EXPECT_EQ(instances[0].center[1], 20.0f);
-    EXPECT_EQ(instances[0].center[2], 30.0f - 500.0f);
-    EXPECT_EQ(instances[0].radius, 24.0f);
-    EXPECT_EQ(instances[1].center[0], -1.0f);
-    EXPECT_EQ(instances[1].radius, 2.5f);
+    EXPECT_EQ(instances[1].center[0], 10.0f);
+    EXPECT_EQ(instances[1].center[1], 20.0f);
+    EXPECT_EQ(instances[1].center[2], 30.0f - 500.0f);
+    EXPECT_EQ(instances[1].radius, 24.0f);
+    EXPECT_EQ(instances[0].center[0], -1.0f);
+    EXPECT_EQ(instances[0].radius, 2.5f);
+}
+
+TEST(PlanetInstances, FarthestFirst_TiesInSceneOrder) {
+    SceneView view;
+    view.createPlanet("near", "0", "0", "100", "20");
+    view.createPlanet("far", "0", "0", "-100", "60");
+    view.createPlanet2("twinA", kRed, 0, 3, "50", "0", "0", "10");
+    view.createPlanet("twinB", "50", "0", "0", "10");
+    // A big sphere whose surface comes nearer than a small sphere's, though its centre is
+    // farther away: the surface decides.
+    view.createPlanet("big", "0", "0", "200", "200");   // centre 300 from the eye
+    view.createPlanet("small", "226", "0", "420", "1"); // centre 240 from the eye
+    const auto instances = instancesOf(view);
+    ASSERT_EQ(instances.size(), 6u);
+    std::vector<std::string> order;
+    for (const PlanetInstance& instance : instances)
+        order.push_back(instance.radius == 60        ? "far"
+                        : instance.radius == 20      ? "near"
+                        : instance.radius == 200     ? "big"
+                        : instance.radius == 1       ? "small"
+                        : instance.surfaceLayer == 5 ? "twinA"
+                                                     : "twinB");
+    EXPECT_EQ(order, (std::vector<std::string>{"far", "twinA", "twinB", "near", "small", "big"}));
 }
 
 TEST(PlanetInstances, MaterialsBecomeColourRampAndSurfaceLayer) {

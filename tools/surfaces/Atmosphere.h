@@ -16,7 +16,7 @@ struct Atmosphere {
     double banding = 0.3; // weight of the latitude bands
     double bandFrequency = 7.0;
     double contrast = 1.0;
-    double detail = 0.08;  // fine texture over the swirls
+    double detail = 0.08; // fine texture over the swirls
     double polarDarkening = 0.2;
     std::uint32_t seed = 1;
 };

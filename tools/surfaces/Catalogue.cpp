@@ -4,8 +4,8 @@
 #include "tools/surfaces/GasGiant.h"
 #include "tools/surfaces/Ice.h"
 #include "tools/surfaces/Landscapes.h"
-#include "tools/surfaces/Noise.h"
 #include "tools/surfaces/Lava.h"
+#include "tools/surfaces/Noise.h"
 #include "tools/surfaces/Oddities.h"
 #include "tools/surfaces/Rocky.h"
 #include "tools/surfaces/SurfaceGenerator.h"
@@ -75,8 +75,11 @@ Shader terra() {
 
 Shader jupiter() {
     GasGiant g;
-    g.palette = {{0.0, hex(0x5a3422)}, {0.3, hex(0x7a4a30)}, {0.55, hex(0xa07850)},
-                 {0.75, hex(0xbca07c)}, {1.0, hex(0xc8b494)}};
+    g.palette = {{0.0, hex(0x5a3422)},
+                 {0.3, hex(0x7a4a30)},
+                 {0.55, hex(0xa07850)},
+                 {0.75, hex(0xbca07c)},
+                 {1.0, hex(0xc8b494)}};
     g.bands = 6.0;
     g.sharpness = 0.9;
     g.turbulence = 0.07;
@@ -91,7 +94,7 @@ Shader jupiter() {
 Shader saturn() {
     GasGiant g;
     g.palette = {
-        {0.0, hex(0x7a6440)}, {0.4, hex(0xa88c5c)}, {0.7, hex(0xbaa070)}, {1.0, hex(0x8a7450)}};
+        {0.0, hex(0x6e5a3a)}, {0.4, hex(0x977e53)}, {0.7, hex(0xa79065)}, {1.0, hex(0x7c6848)}};
     g.bands = 11.0;
     g.turbulence = 0.02;
     g.streaks = 0.08;
@@ -131,7 +134,7 @@ Shader uranus() {
 Shader venus() {
     Atmosphere a;
     a.palette = {
-        {0.0, hex(0x6a4a1c)}, {0.4, hex(0x9a7434)}, {0.7, hex(0xb49450)}, {1.0, hex(0xc4aa6a)}};
+        {0.0, hex(0x5f4319)}, {0.4, hex(0x8b682f)}, {0.7, hex(0xa28548)}, {1.0, hex(0xb0995f)}};
     a.frequency = 1.8;
     a.swirl = 0.5;
     a.banding = 0.35;
@@ -141,11 +144,11 @@ Shader venus() {
 
 Shader europa() {
     Ice i;
-    i.ice = {{0.0, hex(0x766e5e)}, {0.5, hex(0x8e8674)}, {1.0, hex(0x9e9886)}};
-    i.lines = hex(0x6a3a22);
+    i.ice = {{0.0, hex(0x686153)}, {0.5, hex(0x7d7666)}, {1.0, hex(0x8b8676)}};
+    i.lines = hex(0x5d331e);
     i.lineStrength = 0.85;
     i.chaos = 0.12;
-    i.chaosColour = hex(0x7a5a42);
+    i.chaosColour = hex(0x6b4f3a);
     i.seed = 110;
     return ice(i);
 }
@@ -190,8 +193,11 @@ Shader cycloneGiant() {
 
 Shader toxicHaze() {
     Atmosphere a;
-    a.palette = {{0.0, hex(0x1a2606)}, {0.35, hex(0x3e5410)}, {0.65, hex(0x7a8a18)},
-                 {0.85, hex(0x9a9a3a)}, {1.0, hex(0x6a7a20)}};
+    a.palette = {{0.0, hex(0x1a2606)},
+                 {0.35, hex(0x3e5410)},
+                 {0.65, hex(0x7a8a18)},
+                 {0.85, hex(0x9a9a3a)},
+                 {1.0, hex(0x6a7a20)}};
     a.frequency = 1.6;
     a.swirl = 0.7;
     a.stretch = 2.0;
@@ -203,12 +209,12 @@ Shader toxicHaze() {
 
 Shader snowball() {
     Ice i;
-    i.ice = {{0.0, hex(0x5a6a7c)}, {0.5, hex(0x7a8a9c)}, {1.0, hex(0x96a4b2)}};
-    i.lines = hex(0x2a3a4e);
+    i.ice = {{0.0, hex(0x4c5a69)}, {0.5, hex(0x687585)}, {1.0, hex(0x808b97)}};
+    i.lines = hex(0x243142);
     i.lineFrequency = 1.8;
     i.lineStrength = 0.6;
     i.chaos = 0.1;
-    i.chaosColour = hex(0x4a4a52);
+    i.chaosColour = hex(0x3f3f46);
     i.seed = 170;
     return ice(i);
 }
@@ -301,25 +307,27 @@ Shader ashWorld() {
 
 Shader glacier() {
     Ice i;
-    i.ice = {{0.0, hex(0x2e5a78)}, {0.5, hex(0x5a86a0)}, {1.0, hex(0x7aa0b6)}};
-    i.lines = hex(0x0e2a4a);
+    i.ice = {{0.0, hex(0x29516c)}, {0.5, hex(0x517990)}, {1.0, hex(0x6e90a4)}};
+    i.lines = hex(0x0d2643);
     i.lineFrequency = 3.5;
     i.lineStrength = 0.9;
     i.lineWidth = 0.07;
-    
+
     i.seed = 260;
     return ice(i);
 }
 
 Shader ironWorld() {
     Rocky r;
-    r.albedo = {{0.0, hex(0x1a1c22)}, {0.4, hex(0x33363e)}, {0.7, hex(0x4e525a)},
-                {1.0, hex(0x6a6e74)}};
+    r.albedo = {
+        {0.0, hex(0x1a1c22)}, {0.4, hex(0x33363e)}, {0.7, hex(0x4e525a)}, {1.0, hex(0x6a6e74)}};
     r.ridges = 0.6;
     r.warpAmount = 0.6;
     r.contrast = 1.2;
-    r.basinLevel = 0.22;
+    r.basinLevel = 0.3;
+    r.basinScale = 5.0;
     r.basinColour = hex(0x7a3414);
+    r.craters = CraterField{0.5, 4, 0.5, 271};
     r.grain = 0.12;
     r.seed = 270;
     return rocky(r);
@@ -360,7 +368,8 @@ Shader ganymede() {
     r.frequency = 2.2;
     r.warpAmount = 0.15;
     r.contrast = 0.8;
-    r.basinLevel = 0.0;
+    r.basinLevel = 0.1;
+    r.basinScale = 2.6;
     r.basinColour = hex(0x8a8478);
     r.craters = CraterField{0.6, 6, 0.8, 301};
     r.craterRelief = 0.12;
@@ -400,8 +409,8 @@ Shader crimsonFlora() {
     t.moisture = 0.2;
     t.temperature = 0.1;
     t.ocean = {{0.0, hex(0x263056)}, {0.3, hex(0x18203e)}, {1.0, hex(0x0c1028)}};
-    t.land = {{0.0, hex(0x5a4434)}, {0.4, hex(0x6a2a30)}, {0.7, hex(0x4e1a2c)},
-              {1.0, hex(0x361022)}};
+    t.land = {
+        {0.0, hex(0x5a4434)}, {0.4, hex(0x6a2a30)}, {0.7, hex(0x4e1a2c)}, {1.0, hex(0x361022)}};
     t.highland = hex(0x3a2a2a);
     t.snow = hex(0x8a8494);
     t.clouds = 0.2;
@@ -439,8 +448,8 @@ Shader cloudTops() {
 
 Shader auroraGiant() {
     GasGiant g;
-    g.palette = {{0.0, hex(0x080c22)}, {0.4, hex(0x101c40)}, {0.7, hex(0x1a2e58)},
-                 {1.0, hex(0x24406a)}};
+    g.palette = {
+        {0.0, hex(0x080c22)}, {0.4, hex(0x101c40)}, {0.7, hex(0x1a2e58)}, {1.0, hex(0x24406a)}};
     g.bands = 5.0;
     g.turbulence = 0.06;
     g.streaks = 0.12;
@@ -450,7 +459,8 @@ Shader auroraGiant() {
     const Shader giant = gasGiant(g);
     const Vec3 o = seedOffset(391);
     return [giant, o](const Vec3& p) {
-        const double ring = std::exp(-std::pow((std::abs(p.y) - 0.93 - 0.015 * fbm(p * 6.0 + o, 3)) / 0.025, 2.0));
+        const double ring =
+            std::exp(-std::pow((std::abs(p.y) - 0.93 - 0.015 * fbm(p * 6.0 + o, 3)) / 0.025, 2.0));
         const double curtains = 0.4 + 0.6 * std::pow(0.5 + 0.5 * simplex(p * 40.0 + o), 2.0);
         return giant(p) + hex(0x2ad49a) * (0.55 * ring * curtains);
     };
@@ -458,8 +468,8 @@ Shader auroraGiant() {
 
 Shader tundra() {
     Rocky r;
-    r.albedo = {{0.0, hex(0x2a2c22)}, {0.4, hex(0x4a4a36)}, {0.7, hex(0x5e5a46)},
-                {1.0, hex(0x7a7464)}};
+    r.albedo = {
+        {0.0, hex(0x2a2c22)}, {0.4, hex(0x4a4a36)}, {0.7, hex(0x5e5a46)}, {1.0, hex(0x7a7464)}};
     r.ridges = 0.5;
     r.frequency = 2.5;
     r.basinLevel = 0.25;
@@ -569,6 +579,7 @@ Shader deadWorld() {
     Rocky r;
     r.albedo = {{0.0, hex(0x3a2a1e)}, {0.5, hex(0x6a5238)}, {1.0, hex(0x8a6e4a)}};
     r.basinLevel = 0.2;
+    r.basinScale = 2.4;
     r.basinColour = hex(0x7a6e58);
     r.craters = CraterField{0.5, 4, 0.6, 481};
     r.craterRelief = 0.12;

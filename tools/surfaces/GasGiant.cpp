@@ -49,7 +49,8 @@ Shader gasGiant(GasGiant giant) {
                 body = inside;
                 tint = s.tint;
             }
-            collar = std::max(collar, std::exp(-std::pow((w.distance - 1.1) / 0.15, 2.0)) * s.amount);
+            collar =
+                std::max(collar, std::exp(-std::pow((w.distance - 1.1) / 0.15, 2.0)) * s.amount);
         }
         // Jet streams: neighbouring latitudes drift at different speeds, which shears
         // the turbulence into chevrons and festoons.

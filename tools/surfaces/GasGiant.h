@@ -22,15 +22,15 @@ struct Storm {
 // A banded giant: zones and belts of irregular width whose edges wander with east-west
 // stretched turbulence, sheared by jet streams, with storms large and small.
 struct GasGiant {
-    Ramp palette;               // belts at the low end, zones at the high end
-    double bands = 6.0;         // band frequency across the latitudes
-    double sharpness = 1.2;     // how crisply belts and zones part
-    double turbulence = 0.06;   // how far the band edges wander
-    double streaks = 0.1;       // strength of fine east-west streaks
-    double swirl = 0.6;         // domain warp that curls the band edges
+    Ramp palette;             // belts at the low end, zones at the high end
+    double bands = 6.0;       // band frequency across the latitudes
+    double sharpness = 1.2;   // how crisply belts and zones part
+    double turbulence = 0.06; // how far the band edges wander
+    double streaks = 0.1;     // strength of fine east-west streaks
+    double swirl = 0.6;       // domain warp that curls the band edges
     double polarDarkening = 0.3;
     std::vector<Storm> storms;
-    int scatteredStorms = 0;    // small pale ovals at random
+    int scatteredStorms = 0; // small pale ovals at random
     Rgb scatteredTint{0.8, 0.78, 0.72};
     std::uint32_t seed = 1;
 };

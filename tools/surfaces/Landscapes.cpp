@@ -19,8 +19,8 @@ double duneLight(double phase) {
 } // namespace
 
 Shader duneSea() {
-    const Ramp sand{{0.0, hex(0x5a3419)}, {0.45, hex(0x8c5a2b)}, {0.75, hex(0xa4723a)},
-                    {1.0, hex(0xb88c50)}};
+    const Ramp sand{
+        {0.0, hex(0x5a3419)}, {0.45, hex(0x8c5a2b)}, {0.75, hex(0xa4723a)}, {1.0, hex(0xb88c50)}};
     const Vec3 o1 = seedOffset(151);
     const Vec3 o2 = seedOffset(152);
     const Vec3 o3 = seedOffset(153);
@@ -43,13 +43,13 @@ Shader duneSea() {
         const double field = smoothstep(-0.35, 0.1, fbm(p * 2.5 + o3, 4));
         Rgb colour = sand.at(0.55 + 0.35 * region);
         colour = colour * (1.0 + 0.55 * light * field);
-        
+
         return colour * (1.0 + 0.05 * simplex(p * 160.0 + o2));
     };
 }
 
 Shader canyonlands() {
-    const Ramp strata{{0.0, hex(0x6b2c17)}, {0.2, hex(0x9a4a22)}, {0.35, hex(0x7d3a1d)},
+    const Ramp strata{{0.0, hex(0x6b2c17)}, {0.2, hex(0x9a4a22)},  {0.35, hex(0x7d3a1d)},
                       {0.5, hex(0xa8643a)}, {0.65, hex(0x8a4424)}, {0.8, hex(0x9a5a34)},
                       {1.0, hex(0x6e3019)}};
     const Vec3 o1 = seedOffset(161);

@@ -14,9 +14,11 @@ std::uint64_t splitmix(std::uint64_t& state) {
     return z ^ (z >> 31);
 }
 
-// A fixed shuffle of 0..255, doubled so that index arithmetic never wraps.
+// A fixed shuffle of 0..255, doubled so that index arithmetic never wraps, and the
+// gradient (0 to 11) that each entry selects.
 struct Permutation {
     std::array<std::uint8_t, 512> table{};
+    std::array<std::uint8_t, 512> gradient{};
     Permutation() {
         std::array<std::uint8_t, 256> values{};
         for (std::size_t i = 0; i < 256; ++i)
@@ -24,26 +26,38 @@ struct Permutation {
         std::uint64_t state = 0x0A11CE5EEDull;
         for (std::size_t i = 255; i > 0; --i)
             std::swap(values[i], values[splitmix(state) % (i + 1)]);
-        for (std::size_t i = 0; i < 512; ++i)
+        for (std::size_t i = 0; i < 512; ++i) {
             table[i] = values[i & 255];
+            gradient[i] = static_cast<std::uint8_t>(table[i] % 12);
+        }
     }
 };
+
+std::int64_t fastFloor(double v) {
+    const auto truncated = static_cast<std::int64_t>(v);
+    return truncated - (v < static_cast<double>(truncated));
+}
 
 const Permutation& permutation() {
     static const Permutation p;
     return p;
 }
 
-constexpr int kGradients[12][3] = {{1, 1, 0}, {-1, 1, 0}, {1, -1, 0}, {-1, -1, 0},
-                                   {1, 0, 1}, {-1, 0, 1}, {1, 0, -1}, {-1, 0, -1},
-                                   {0, 1, 1}, {0, -1, 1}, {0, 1, -1}, {0, -1, -1}};
+constexpr double kGradients[12][3] = {{1, 1, 0}, {-1, 1, 0}, {1, -1, 0}, {-1, -1, 0},
+                                      {1, 0, 1}, {-1, 0, 1}, {1, 0, -1}, {-1, 0, -1},
+                                      {0, 1, 1}, {0, -1, 1}, {0, 1, -1}, {0, -1, -1}};
 
-double corner(int gradient, double x, double y, double z) {
+// One corner's share of the noise; its gradient is looked up only when it counts.
+[[gnu::always_inline]] inline double corner(const Permutation& perm, int a, int b, int c, double x,
+                                            double y, double z) {
     double t = 0.6 - x * x - y * y - z * z;
-    if (t < 0.0)
+    if (t <= 0.0)
         return 0.0;
     t *= t;
-    const int* g = kGradients[gradient];
+    const std::size_t index =
+        static_cast<std::size_t>(a) +
+        perm.table[static_cast<std::size_t>(b) + perm.table[static_cast<std::size_t>(c)]];
+    const double* g = kGradients[perm.gradient[index]];
     return t * t * (g[0] * x + g[1] * y + g[2] * z);
 }
 
@@ -74,49 +88,34 @@ double simplex(const Vec3& p) {
     constexpr double F3 = 1.0 / 3.0;
     constexpr double G3 = 1.0 / 6.0;
     const double s = (p.x + p.y + p.z) * F3;
-    const double fi = std::floor(p.x + s);
-    const double fj = std::floor(p.y + s);
-    const double fk = std::floor(p.z + s);
-    const double t = (fi + fj + fk) * G3;
-    const double x0 = p.x - (fi - t);
-    const double y0 = p.y - (fj - t);
-    const double z0 = p.z - (fk - t);
+    const std::int64_t i = fastFloor(p.x + s);
+    const std::int64_t j = fastFloor(p.y + s);
+    const std::int64_t k = fastFloor(p.z + s);
+    const double t = static_cast<double>(i + j + k) * G3;
+    const double x0 = p.x - (static_cast<double>(i) - t);
+    const double y0 = p.y - (static_cast<double>(j) - t);
+    const double z0 = p.z - (static_cast<double>(k) - t);
 
-    int i1, j1, k1, i2, j2, k2;
-    if (x0 >= y0) {
-        if (y0 >= z0) {
-            i1 = 1, j1 = 0, k1 = 0, i2 = 1, j2 = 1, k2 = 0;
-        } else if (x0 >= z0) {
-            i1 = 1, j1 = 0, k1 = 0, i2 = 1, j2 = 0, k2 = 1;
-        } else {
-            i1 = 0, j1 = 0, k1 = 1, i2 = 1, j2 = 0, k2 = 1;
-        }
-    } else {
-        if (y0 < z0) {
-            i1 = 0, j1 = 0, k1 = 1, i2 = 0, j2 = 1, k2 = 1;
-        } else if (x0 < z0) {
-            i1 = 0, j1 = 1, k1 = 0, i2 = 0, j2 = 1, k2 = 1;
-        } else {
-            i1 = 0, j1 = 1, k1 = 0, i2 = 1, j2 = 1, k2 = 0;
-        }
-    }
+    // The second and third corners step along the axes in order of the largest offset.
+    const int i1 = x0 >= y0 && x0 >= z0;
+    const int j1 = y0 > x0 && y0 >= z0;
+    const int k1 = 1 - i1 - j1;
+    const int i2 = x0 >= y0 || x0 >= z0;
+    const int j2 = y0 > x0 || y0 >= z0;
+    const int k2 = z0 > x0 || z0 > y0;
+
     const double x1 = x0 - i1 + G3, y1 = y0 - j1 + G3, z1 = z0 - k1 + G3;
     const double x2 = x0 - i2 + 2 * G3, y2 = y0 - j2 + 2 * G3, z2 = z0 - k2 + 2 * G3;
     const double x3 = x0 - 1 + 3 * G3, y3 = y0 - 1 + 3 * G3, z3 = z0 - 1 + 3 * G3;
 
-    const auto& perm = permutation().table;
-    const int ii = static_cast<int>(static_cast<std::int64_t>(fi) & 255);
-    const int jj = static_cast<int>(static_cast<std::int64_t>(fj) & 255);
-    const int kk = static_cast<int>(static_cast<std::int64_t>(fk) & 255);
-    const auto gradient = [&perm](int a, int b, int c) {
-        return perm[static_cast<std::size_t>(
-                   a + perm[static_cast<std::size_t>(b + perm[static_cast<std::size_t>(c)])])] %
-               12;
-    };
-    const double n = corner(gradient(ii, jj, kk), x0, y0, z0) +
-                     corner(gradient(ii + i1, jj + j1, kk + k1), x1, y1, z1) +
-                     corner(gradient(ii + i2, jj + j2, kk + k2), x2, y2, z2) +
-                     corner(gradient(ii + 1, jj + 1, kk + 1), x3, y3, z3);
+    const Permutation& perm = permutation();
+    const int ii = static_cast<int>(i & 255);
+    const int jj = static_cast<int>(j & 255);
+    const int kk = static_cast<int>(k & 255);
+    const double n = corner(perm, ii, jj, kk, x0, y0, z0) +
+                     corner(perm, ii + i1, jj + j1, kk + k1, x1, y1, z1) +
+                     corner(perm, ii + i2, jj + j2, kk + k2, x2, y2, z2) +
+                     corner(perm, ii + 1, jj + 1, kk + 1, x3, y3, z3);
     return 32.0 * n;
 }
 
@@ -140,10 +139,6 @@ double ridged(const Vec3& p, int count, double gain) {
         const double crest = 1.0 - std::abs(n);
         return crest * crest;
     });
-}
-
-double billow(const Vec3& p, int count, double gain) {
-    return octaves(p, count, gain, [](double n) { return std::abs(n); });
 }
 
 Vec3 warp(const Vec3& p, double amount, int count, std::uint32_t seed) {

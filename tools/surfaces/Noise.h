@@ -18,11 +18,9 @@ Vec3 seedOffset(std::uint32_t seed);
 
 // Fractal sums of octaves, each octave at double the frequency and `gain` times the
 // weight of the one before (rotated so that octaves do not line up). Normalised to about
-// -1 to 1 (fbm) or 0 to 1 (ridged: sharp crests where the noise crosses zero; billow:
-// rounded puffs).
+// -1 to 1 (fbm) or 0 to 1 (ridged: sharp crests where the noise crosses zero).
 double fbm(const Vec3& p, int octaves, double gain = 0.5);
 double ridged(const Vec3& p, int octaves, double gain = 0.5);
-double billow(const Vec3& p, int octaves, double gain = 0.5);
 
 // p displaced by a smooth random field: the domain warp that turns noise into swirls.
 Vec3 warp(const Vec3& p, double amount, int octaves, std::uint32_t seed);

@@ -9,8 +9,11 @@
 namespace orrery::surfaces {
 
 Shader volcanicMoon() {
-    const Ramp sulphur{{0.0, hex(0x5a3e10)}, {0.35, hex(0x866818)}, {0.6, hex(0x9c8430)},
-                       {0.8, hex(0x865a20)}, {1.0, hex(0x6a3614)}};
+    const Ramp sulphur{{0.0, hex(0x5a3e10)},
+                       {0.35, hex(0x866818)},
+                       {0.6, hex(0x9c8430)},
+                       {0.8, hex(0x865a20)},
+                       {1.0, hex(0x6a3614)}};
     const Vec3 o1 = seedOffset(181);
     const Vec3 o2 = seedOffset(182);
     return [sulphur, o1, o2](const Vec3& p) {
@@ -67,7 +70,8 @@ Shader eyeball() {
         const Rgb scorched = mix(hex(0x4a2414), hex(0x8a5030), 0.3 + 0.5 * rock + 0.3 * noise);
         const Rgb sea = mix(hex(0x0c2a4a), hex(0x1a5a6a), 0.5 + noise);
         const Rgb green = mix(hex(0x1f3a14), hex(0x4a5a22), 0.5 + fbm(p * 8.0 + o2, 4));
-        const double crack = smoothstep(0.9, 0.97, 1.0 - std::abs(simplex(warp(p * 5.0 + o2, 0.3, 2, 204))));
+        const double crack =
+            smoothstep(0.9, 0.97, 1.0 - std::abs(simplex(warp(p * 5.0 + o2, 0.3, 2, 204))));
         const Rgb ice = mix(hex(0x2e3a4a), hex(0x6a7888), 0.5 + 0.6 * fbm(p * 4.0 + o2, 5)) *
                         (1.0 - 0.35 * crack);
         const double land = smoothstep(0.05, 0.12, fbm(p * 3.0 + o2, 6));
@@ -113,7 +117,7 @@ Shader obsidian() {
         Rgb colour = mix(hex(0x100c16), hex(0x2e2240), sheen);
         const Vec3 q = warp(p * 3.0 + o2, 0.5, 3, 223);
         const double vein = std::pow(ridged(q, 5, 0.5), 3.5);
-        colour = colour + mix(hex(0x3a1060), hex(0xa040c8), vein) * (vein * 0.8);
+        colour = colour + mix(hex(0x3a1060), hex(0xb048e0), vein) * (vein * 1.3);
         return colour * (1.0 + 0.08 * simplex(p * 120.0 + o1));
     };
 }

@@ -21,9 +21,6 @@ constexpr Rgb operator+(const Rgb& a, const Rgb& c) {
 constexpr Rgb operator*(const Rgb& a, double s) {
     return {a.r * s, a.g * s, a.b * s};
 }
-constexpr Rgb operator*(const Rgb& a, const Rgb& c) {
-    return {a.r * c.r, a.g * c.g, a.b * c.b};
-}
 
 // 0xRRGGBB as a colour.
 constexpr Rgb hex(std::uint32_t value) {

@@ -16,8 +16,8 @@ struct Rocky {
     double ridges = 0.3; // share of ridged mountain chains in the terrain value
     double warpAmount = 0.3;
     double contrast = 1.0;
-    double basinLevel = 2.0;   // terrain noise above this becomes a dark basin (2: none)
-    double basinScale = 1.3;   // frequency of the basins
+    double basinLevel = 2.0; // terrain noise above this becomes a dark basin (2: none)
+    double basinScale = 1.3; // frequency of the basins
     Rgb basinColour{};
     std::optional<CraterField> craters;
     double craterRelief = 0.12;

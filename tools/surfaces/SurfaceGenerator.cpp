@@ -4,16 +4,64 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cmath>
 #include <numbers>
 #include <thread>
 
 namespace orrery::surfaces {
 
-Vec3 pixelDirection(int x, int y, int width, int height) {
-    const double u = (x + 0.5) / width;
-    const double v = (y + 0.5) / height;
-    return direction(90.0 - 180.0 * v, 360.0 * u);
+namespace {
+
+// Surfaces glow on top of the lit planet, so bright areas wash out the shading. Highlights
+// above the knee are compressed (keeping their hue); the darker range stays as drawn.
+Rgb softenHighlights(const Rgb& colour) {
+    constexpr double kKnee = 0.35;
+    constexpr double kSlope = 0.55;
+    const double l = luminance(colour);
+    if (l <= kKnee)
+        return colour;
+    return colour * ((kKnee + (l - kKnee) * kSlope) / l);
 }
+
+// A row of an equirectangular picture spans a circle of latitude that shrinks towards
+// the poles, so it needs only cos(latitude) as many samples as the equator to show the
+// same detail. The samples are spread evenly round the circle and the pixels read between
+// them, wrapping around, so the row stays seamless.
+void renderRow(const Shader& shade, Image& image, int y) {
+    const int width = image.width;
+    const double v = (y + 0.5) / image.height;
+    const double latitude = 90.0 - 180.0 * v;
+    const double circle = std::cos(latitude * std::numbers::pi / 180.0);
+    const int samples = std::clamp(static_cast<int>(std::ceil(width * circle)) + 2, 8, width);
+    std::vector<Rgb> ring(static_cast<std::size_t>(samples));
+    for (int i = 0; i < samples; ++i)
+        ring[static_cast<std::size_t>(i)] =
+            softenHighlights(shade(direction(latitude, 360.0 * (i + 0.5) / samples)));
+
+    const auto byte = [](double c) {
+        return static_cast<std::uint8_t>(clamp01(c) * 255.0 + 0.5);
+    };
+    for (int x = 0; x < width; ++x) {
+        Rgb colour;
+        if (samples == width) {
+            colour = ring[static_cast<std::size_t>(x)];
+        } else {
+            const double position = (x + 0.5) / width * samples - 0.5;
+            const double below = std::floor(position);
+            const auto first =
+                static_cast<std::size_t>((static_cast<int>(below) + samples) % samples);
+            const std::size_t second = (first + 1) % static_cast<std::size_t>(samples);
+            colour = mix(ring[first], ring[second], position - below);
+        }
+        std::uint8_t* p = image.pixel(x, y);
+        p[0] = byte(colour.r);
+        p[1] = byte(colour.g);
+        p[2] = byte(colour.b);
+        p[3] = 255;
+    }
+}
+
+} // namespace
 
 Image renderSurface(int number, int width, int height) {
     const auto& recipes = surfaceRecipes();
@@ -21,19 +69,8 @@ Image renderSurface(int number, int width, int height) {
         return Image();
     const Shader shade = recipes[static_cast<std::size_t>(number - 1)].make();
     Image image(width, height);
-    const auto byte = [](double c) {
-        return static_cast<std::uint8_t>(clamp01(c) * 255.0 + 0.5);
-    };
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            const Rgb colour = shade(pixelDirection(x, y, width, height));
-            std::uint8_t* p = image.pixel(x, y);
-            p[0] = byte(colour.r);
-            p[1] = byte(colour.g);
-            p[2] = byte(colour.b);
-            p[3] = 255;
-        }
-    }
+    for (int y = 0; y < height; ++y)
+        renderRow(shade, image, y);
     return image;
 }
 

@@ -25,9 +25,6 @@ struct SurfaceRecipe {
 // Surfaces 1 to 48 in order (entry 0 is surface 1).
 const std::vector<SurfaceRecipe>& surfaceRecipes();
 
-// The point of the unit sphere that a pixel centre of a width x height picture shows.
-Vec3 pixelDirection(int x, int y, int width, int height);
-
 // One surface (number 1 to 48) at any size; an empty image for other numbers.
 Image renderSurface(int number, int width, int height);
 

@@ -3,13 +3,16 @@
 #include "tools/surfaces/Noise.h"
 #include "tools/surfaces/Vortex.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace orrery::surfaces {
 namespace {
 
 // Deserts gather in the subtropics, rain forests at the equator.
-double aridity(double latitude) { return 0.35 * std::exp(-std::pow((latitude - 0.42) / 0.15, 2.0)); }
+double aridity(double latitude) {
+    return 0.35 * std::exp(-std::pow((latitude - 0.42) / 0.15, 2.0));
+}
 
 } // namespace
 
@@ -19,7 +22,7 @@ Shader terran(Terran world) {
     const Vec3 o3 = seedOffset(world.seed + 2);
     const Vec3 o4 = seedOffset(world.seed + 3);
     const Vec3 o5 = seedOffset(world.seed + 4);
-    std::vector<Vortex> cyclones = scatterVortices(5, 15.0, 55.0, 0.12, 0.22, 2.5, world.seed);
+    std::vector<Vortex> cyclones = scatterVortices(5, 15.0, 55.0, 0.1, 0.16, 3.5, world.seed);
     return [world = std::move(world), cyclones = std::move(cyclones), o1, o2, o3, o4,
             o5](const Vec3& p) {
         const Vec3 q = warp(p * world.continentScale + o1, 0.3, 3, world.seed);
@@ -43,19 +46,26 @@ Shader terran(Terran world) {
             colour = world.land.at(wet);
             colour = mix(colour, world.highland, smoothstep(0.35, 0.8, elevation));
             const double cold = warmth - 0.35 * elevation;
-            colour = mix(colour, world.snow * (0.9 + 0.2 * mountains), smoothstep(0.0, -0.12, cold));
+            colour =
+                mix(colour, world.snow * (0.9 + 0.2 * mountains), smoothstep(0.0, -0.12, cold));
         }
         if (world.clouds > 0.0) {
+            // Cyclones wind the clouds into spiral arms around a cloudy core.
             Vec3 c = p;
-            for (const Vortex& v : cyclones)
-                c = wind(c, v).point;
+            double core = 0.0;
+            for (const Vortex& v : cyclones) {
+                const Wound w = wind(c, v);
+                c = w.point;
+                core = std::max(core, std::exp(-w.distance * w.distance * 2.0));
+            }
             const Vec3 sky = warp(Vec3{c.x, c.y * 1.4, c.z} * 1.8 + o3, 0.5, 3, world.seed + 9);
             // Cloud belts gather at the equator and at the mid-latitudes.
             const double belts = 0.12 * std::cos(p.y * 9.0);
-            const double puffs = 0.5 + 0.8 * fbm(sky, 5, 0.45) + belts;
+            const double puffs = 0.5 + 0.8 * fbm(sky, 5, 0.45) + belts + 0.3 * core;
             const double cover =
                 smoothstep(1.0 - world.clouds - 0.15, 1.0 - world.clouds + 0.2, puffs);
-            colour = mix(colour, world.cloudColour * (0.85 + 0.3 * cover), cover * world.cloudOpacity);
+            colour =
+                mix(colour, world.cloudColour * (0.85 + 0.3 * cover), cover * world.cloudOpacity);
         }
         return colour;
     };

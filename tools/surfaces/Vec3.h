@@ -20,9 +20,7 @@ constexpr Vec3 operator-(const Vec3& a, const Vec3& b) {
 constexpr Vec3 operator*(const Vec3& a, double s) {
     return {a.x * s, a.y * s, a.z * s};
 }
-constexpr Vec3 operator*(double s, const Vec3& a) {
-    return a * s;
-}
+
 constexpr double dot(const Vec3& a, const Vec3& b) {
     return a.x * b.x + a.y * b.y + a.z * b.z;
 }

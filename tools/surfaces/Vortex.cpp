@@ -18,7 +18,8 @@ std::vector<Vortex> scatterVortices(int count, double lowest, double highest, do
     for (int i = 0; i < count; ++i) {
         const std::uint32_t h = hash(i, 17, 3, seed);
         const double side = (h & 1) ? 1.0 : -1.0;
-        const double latitude = side * (lowest + (highest - lowest) * unitFromHash(h * 747796405u + 1));
+        const double latitude =
+            side * (lowest + (highest - lowest) * unitFromHash(h * 747796405u + 1));
         const double longitude = 360.0 * unitFromHash(h * 2891336453u + 3);
         const double radius = smallest + (largest - smallest) * unitFromHash(h * 1664525u + 5);
         const double aspect = 1.2 + 0.6 * unitFromHash(h * 22695477u + 7);
