@@ -166,11 +166,6 @@ std::unique_ptr<HeadlessContext> HeadlessContext::create(std::string* error) {
     return nullptr;
 }
 
-bool HeadlessContext::makeCurrent() {
-    return eglMakeCurrent(state_->display, EGL_NO_SURFACE, EGL_NO_SURFACE, state_->context) ==
-           EGL_TRUE;
-}
-
 const std::string& HeadlessContext::route() const {
     return state_->route;
 }

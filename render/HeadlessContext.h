@@ -9,9 +9,9 @@ namespace render {
 struct HeadlessContextState;
 }
 
-// An OpenGL 3.3 core context without any window or display, for rendering on machines
-// with neither a screen nor a GPU (Mesa's software renderer will do). It tries Mesa's
-// surfaceless platform, then the EGL devices, then the default display.
+// An OpenGL 3.3 core context, current on the thread that made it, without any window or display,
+// for rendering on machines with neither a screen nor a GPU (Mesa's software renderer will do). It
+// tries Mesa's surfaceless platform, then the EGL devices, then the default display.
 class HeadlessContext {
 public:
     // None, with every route tried and why it failed in `error`, when no context can be made.
@@ -20,8 +20,6 @@ public:
     HeadlessContext(const HeadlessContext&) = delete;
     HeadlessContext& operator=(const HeadlessContext&) = delete;
 
-    // Makes the context current on the calling thread (it is current after create).
-    bool makeCurrent();
     // Which route gave the context.
     const std::string& route() const;
 

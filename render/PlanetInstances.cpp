@@ -1,5 +1,6 @@
 #include "render/PlanetInstances.h"
 
+#include "render/ColorSpace.h"
 #include "render/GradientRamps.h"
 
 #include <algorithm>
@@ -12,9 +13,9 @@ namespace {
 constexpr Color kNoGradient{0.0, 0.0, 0.0, 0.0};
 
 void setColor(PlanetInstance& instance, const Color& color) {
-    instance.color[0] = static_cast<float>(color.red);
-    instance.color[1] = static_cast<float>(color.green);
-    instance.color[2] = static_cast<float>(color.blue);
+    instance.color[0] = static_cast<float>(srgbToLinear(color.red));
+    instance.color[1] = static_cast<float>(srgbToLinear(color.green));
+    instance.color[2] = static_cast<float>(srgbToLinear(color.blue));
     instance.color[3] = static_cast<float>(color.alpha);
 }
 

@@ -15,7 +15,7 @@ namespace orrery::render {
 struct PlanetInstance {
     float center[3]; // relative to the eye, so that large coordinates keep their precision
     float radius;
-    float color[4];     // sRGB diffuse colour, straight alpha; used when rampRow < 0
+    float color[4];     // linear diffuse colour, straight alpha; used when rampRow < 0
     float rampRow;      // row of the gradient ramp texture, or -1
     float surfaceLayer; // layer of the surface texture array, or -1 for no emission
 };

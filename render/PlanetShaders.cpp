@@ -3,9 +3,10 @@
 namespace orrery::render {
 
 // Each planet is a square around the circle where the eye's tangent cone touches the
-// sphere: the square holds the sphere's whole silhouette, and every point of the circle
-// lies on the sphere, so no part of it is nearer than the sphere itself. It is widened by
-// a pixel and a half so that the soft outer edge of the silhouette is drawn too.
+// sphere: it holds the sphere's whole silhouette, and every point of the circle lies on
+// the sphere, so no part of it is nearer than the sphere itself. It is widened by a pixel
+// and a half so that the soft outer edge is drawn too. (An octagon would spare a few
+// pixels, but software rasterisers pay more for the extra triangles than they save.)
 const char* const kPlanetVertexShader = R"(#version 330 core
 layout(location = 0) in vec4 centerRadius;
 layout(location = 1) in vec4 diffuseColor;
@@ -63,26 +64,22 @@ uniform sampler2DArray surfaces;
 
 flat in vec3 vCenter;
 flat in float vRadius;
-flat in vec4 vColor;
+flat in vec4 vColor; // linear
 flat in vec2 vLayers;
 
 layout(location = 0) out vec4 fragColor;
 
-vec3 srgbToLinear(vec3 c) {
-    return mix(c / 12.92, pow((c + 0.055) / 1.055, vec3(2.4)), step(0.04045, c));
-}
-
+// sRGB encoding from three square roots, within half a step of 8 bits of the exact curve
+// and far cheaper than pow() in a software renderer.
 vec3 linearToSrgb(vec3 c) {
-    return mix(c * 12.92, 1.055 * pow(c, vec3(1.0 / 2.4)) - 0.055, step(0.0031308, c));
+    vec3 s1 = sqrt(c);
+    vec3 s2 = sqrt(s1);
+    vec3 s3 = sqrt(s2);
+    return clamp(0.662002687 * s1 + 0.684122060 * s2 - 0.323583601 * s3 - 0.0225411470 * c,
+                 0.0, 1.0);
 }
 
 void main() {
-#ifdef EXP_CONST
-    fragColor = vec4(1.0); return;
-#endif
-#ifdef EXP_CONSTDEPTH
-    fragColor = vec4(1.0); gl_FragDepth = gl_FragCoord.z; return;
-#endif
     vec2 ndc = (gl_FragCoord.xy - viewport.xy) / viewport.zw * 2.0 - 1.0;
     vec3 direction = normalize(vec3(ndc * ndcToRay, -1.0));
     // The miss vector (centre minus the ray's closest point) keeps precision for small
@@ -101,30 +98,29 @@ void main() {
     vec4 clip = projection * vec4(surfacePoint, 1.0);
     gl_FragDepth = clamp(0.5 * clip.z / clip.w + 0.5, 0.0, 1.0);
 
-    // Equirectangular coordinates: u around the equator (0.5 facing +z, growing towards
-    // +x), v from the north pole (+y) down.
-    float u = atan(normal.x, normal.z) / (2.0 * kPi) + 0.5;
-    float v = acos(clamp(normal.y, -1.0, 1.0)) / kPi;
-    // u jumps from 1 to 0 behind the sphere. A copy of u that jumps in front instead is
-    // smooth there, so the smaller of the two slopes is the true one everywhere.
-    float uShifted = fract(u + 0.5);
-    vec2 slopeU = vec2(dFdx(u), dFdy(u));
-    vec2 slopeShifted = vec2(dFdx(uShifted), dFdy(uShifted));
-    if (max(abs(slopeShifted.x), abs(slopeShifted.y)) < max(abs(slopeU.x), abs(slopeU.y)))
-        slopeU = slopeShifted;
-    vec2 slopeV = vec2(dFdx(v), dFdy(v));
-
-    if (coverage <= 0.0 || along <= 0.0)
-        discard;
-
-    vec4 diffuse = vec4(srgbToLinear(vColor.rgb), vColor.a);
-    if (vLayers.x >= 0.0)
-        diffuse = textureLod(gradientRamps, vec2(v, (vLayers.x + 0.5) / gradientRampCount), 0.0);
+    // Equirectangular coordinates: v from the north pole (+y) down, u around the equator
+    // (0.5 facing +z, growing towards +x). Only textured planets need them; the branches
+    // depend on the planet alone, so all pixels of a block take the same way.
+    vec4 diffuse = vColor;
     vec3 emission = vec3(0.0);
-    if (vLayers.y >= 0.0) {
-        vec4 glow = textureGrad(surfaces, vec3(u, v, vLayers.y), vec2(slopeU.x, slopeV.x),
-                                vec2(slopeU.y, slopeV.y));
-        emission = glow.rgb * glow.a;
+    if (vLayers.x >= 0.0 || vLayers.y >= 0.0) {
+        float v = acos(clamp(normal.y, -1.0, 1.0)) / kPi;
+        if (vLayers.x >= 0.0)
+            diffuse = textureLod(gradientRamps, vec2(v, (vLayers.x + 0.5) / gradientRampCount), 0.0);
+        if (vLayers.y >= 0.0) {
+            float u = atan(normal.x, normal.z) / (2.0 * kPi) + 0.5;
+            // u jumps from 1 to 0 behind the sphere. A copy of u that jumps in front
+            // instead is smooth there, so the smaller of the two slopes is the true one.
+            float uShifted = fract(u + 0.5);
+            vec2 slopeU = vec2(dFdx(u), dFdy(u));
+            vec2 slopeShifted = vec2(dFdx(uShifted), dFdy(uShifted));
+            if (max(abs(slopeShifted.x), abs(slopeShifted.y)) < max(abs(slopeU.x), abs(slopeU.y)))
+                slopeU = slopeShifted;
+            vec2 slopeV = vec2(dFdx(v), dFdy(v));
+            vec4 glow = textureGrad(surfaces, vec3(u, v, vLayers.y), vec2(slopeU.x, slopeV.x),
+                                    vec2(slopeU.y, slopeV.y));
+            emission = glow.rgb * glow.a;
+        }
     }
 
     // One omnidirectional light, Lambert only: no attenuation, no ambient, no specular.
@@ -134,6 +130,8 @@ void main() {
     vec3 colour = diffuse.rgb * lightColor * lambert + emission;
     float alpha = diffuse.a * coverage;
     fragColor = vec4(linearToSrgb(clamp(colour, 0.0, 1.0)) * alpha, alpha);
+    if (coverage <= 0.0 || along <= 0.0)
+        discard;
 }
 )";
 

@@ -1,5 +1,6 @@
 #include "render/Renderer.h"
 
+#include "render/ColorSpace.h"
 #include "render/Framebuffers.h"
 #include "render/GlObject.h"
 #include "render/GradientRamps.h"
@@ -9,9 +10,7 @@
 #include "render/SurfaceTextures.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <array>
-#include <cmath>
 #include <utility>
 #include <vector>
 
@@ -23,10 +22,6 @@ constexpr int kRampUnit = 0;
 constexpr int kSurfaceUnit = 1;
 constexpr int kCanvasUnit = 0;
 constexpr int kNeededGlVersion = 33;
-
-double srgbToLinear(double c) {
-    return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-}
 
 std::array<float, 16> toFloats(const std::array<double, 16>& matrix) {
     std::array<float, 16> floats{};
@@ -85,9 +80,6 @@ public:
     std::optional<Image> renderImage(const Scene& scene, const CameraProjection& camera, int width,
                                      int height, std::string* error);
     std::string description() const;
-    void forgetScene() { sceneId = 0; }
-
-    SurfaceTextures surfaces;
 
 private:
     void refreshPlanets(const Scene& scene, Vec3 eye);
@@ -104,6 +96,7 @@ private:
     GlObject instanceBuffer{GlObject::Kind::buffer};
     std::size_t instanceBufferBytes = 0;
     GlObject gradientRamps{GlObject::Kind::texture};
+    SurfaceTextures surfaces;
     Canvas canvas;
     PictureFramebuffer picture;
 
@@ -121,9 +114,7 @@ bool RendererState::build(std::string* error) {
                      glText(GL_VERSION);
         return false;
     }
-    std::string fs = kPlanetFragmentShader;
-    if (getenv("EXP")) fs.insert(fs.find('\n') + 1, std::string("#define ") + getenv("EXP") + "\n");
-    auto planetShaders = buildProgram(kPlanetVertexShader, fs, error);
+    auto planetShaders = buildProgram(kPlanetVertexShader, kPlanetFragmentShader, error);
     auto composeShaders = buildProgram(kComposeVertexShader, kComposeFragmentShader, error);
     if (!planetShaders || !composeShaders)
         return false;
@@ -325,11 +316,6 @@ std::optional<Image> Renderer::renderImage(const SceneView& view, int width, int
 std::optional<Image> Renderer::renderImage(const Scene& scene, const CameraProjection& camera,
                                            int width, int height, std::string* error) {
     return state_->renderImage(scene, camera, width, height, error);
-}
-
-void Renderer::reloadSurfaces() {
-    state_->surfaces.clear();
-    state_->forgetScene();
 }
 
 std::string Renderer::description() const {

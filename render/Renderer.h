@@ -43,9 +43,6 @@ public:
     std::optional<Image> renderImage(const Scene& scene, const CameraProjection& camera, int width,
                                      int height, std::string* error = nullptr);
 
-    // Asks the surface source again for every surface (its images changed).
-    void reloadSurfaces();
-
     // The OpenGL renderer and what the renderer uses of it, for logs and benchmarks.
     std::string description() const;
 

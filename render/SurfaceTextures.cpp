@@ -7,7 +7,7 @@
 namespace orrery::render {
 namespace {
 
-constexpr int kFirstCapacity = 4;
+constexpr int kLayerGranularity = 4;
 
 int maxLayers() {
     GLint layers = 256;
@@ -15,11 +15,27 @@ int maxLayers() {
     return std::max(1, static_cast<int>(layers));
 }
 
-void setSampling() {
+void allocateStorage(int layers) {
+    int width = SurfaceTextures::kLayerWidth;
+    int height = SurfaceTextures::kLayerHeight;
+    for (int level = 0;; ++level) {
+        glTexImage3D(GL_TEXTURE_2D_ARRAY, level, GL_SRGB8_ALPHA8, width, height, layers, 0, GL_RGBA,
+                     GL_UNSIGNED_BYTE, nullptr);
+        if (width == 1 && height == 1)
+            break;
+        width = std::max(1, width / 2);
+        height = std::max(1, height / 2);
+    }
     glTexParameteri(GL_TEXTURE_2D_ARRAY, GL_TEXTURE_MIN_FILTER, GL_LINEAR_MIPMAP_LINEAR);
     glTexParameteri(GL_TEXTURE_2D_ARRAY, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
     glTexParameteri(GL_TEXTURE_2D_ARRAY, GL_TEXTURE_WRAP_S, GL_REPEAT); // around the equator
     glTexParameteri(GL_TEXTURE_2D_ARRAY, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
+}
+
+void setLayer(int layer, const std::uint8_t* pixels) {
+    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
+    glTexSubImage3D(GL_TEXTURE_2D_ARRAY, 0, 0, 0, layer, SurfaceTextures::kLayerWidth,
+                    SurfaceTextures::kLayerHeight, 1, GL_RGBA, GL_UNSIGNED_BYTE, pixels);
 }
 
 } // namespace
@@ -34,15 +50,17 @@ int SurfaceTextures::layerOf(const std::string& name) {
         found->second.used = true;
         return found->second.layer;
     }
-    // The layer first: making room asks the source for the other surfaces again, which
-    // may invalidate an image it handed out before.
-    Entry entry{takeFreeLayer(), true};
-    if (entry.layer >= 0 && !upload(name, entry.layer)) {
-        freeLayers_.push_back(entry.layer);
-        entry.layer = -1;
+    int layer = -1;
+    if (!free_.empty()) {
+        // Lowest first, so that the layers in use stay packed at the start.
+        const auto lowest = std::min_element(free_.begin(), free_.end());
+        layer = *lowest;
+        free_.erase(lowest);
+    } else if (handedOut_ < maxLayers()) {
+        layer = handedOut_++;
     }
-    entries_.emplace(name, entry);
-    return entry.layer;
+    entries_.emplace(name, Entry{layer, true, false});
+    return layer;
 }
 
 void SurfaceTextures::endScene() {
@@ -52,59 +70,42 @@ void SurfaceTextures::endScene() {
             continue;
         }
         if (it->second.layer >= 0)
-            freeLayers_.push_back(it->second.layer);
+            free_.push_back(it->second.layer);
         it = entries_.erase(it);
     }
-    if (mipmapsStale_) {
-        glBindTexture(GL_TEXTURE_2D_ARRAY, texture_.id());
-        glGenerateMipmap(GL_TEXTURE_2D_ARRAY);
-        mipmapsStale_ = false;
+    if (handedOut_ > capacity_)
+        resize((handedOut_ + kLayerGranularity - 1) / kLayerGranularity * kLayerGranularity);
+    bool changed = false;
+    glBindTexture(GL_TEXTURE_2D_ARRAY, texture_.id());
+    for (auto& [name, entry] : entries_) {
+        if (entry.loaded || entry.layer < 0)
+            continue;
+        entry.loaded = true;
+        changed = true;
+        if (!upload(name, entry.layer)) {
+            // Nothing to show: the layer is cleared for the planets already pointing at it
+            // and set free; from the next pass on the surface has no layer.
+            blank(entry.layer);
+            free_.push_back(entry.layer);
+            entry.layer = -1;
+        }
     }
+    if (changed)
+        glGenerateMipmap(GL_TEXTURE_2D_ARRAY);
 }
 
-void SurfaceTextures::clear() {
-    entries_.clear();
-    freeLayers_.clear();
-    texture_.reset();
-    capacity_ = 0;
-}
-
-int SurfaceTextures::takeFreeLayer() {
-    if (freeLayers_.empty())
-        grow();
-    if (freeLayers_.empty())
-        return -1;
-    // Lowest first, so that the layers in use stay packed at the start.
-    const auto lowest = std::min_element(freeLayers_.begin(), freeLayers_.end());
-    const int layer = *lowest;
-    freeLayers_.erase(lowest);
-    return layer;
-}
-
-void SurfaceTextures::grow() {
-    const int limit = maxLayers();
-    if (capacity_ >= limit)
-        return;
-    const int capacity = std::min(limit, capacity_ == 0 ? kFirstCapacity : capacity_ * 2);
+void SurfaceTextures::resize(int capacity) {
+    capacity = std::min(capacity, maxLayers());
     texture_.create();
     glBindTexture(GL_TEXTURE_2D_ARRAY, texture_.id());
-    int width = kLayerWidth;
-    int height = kLayerHeight;
-    for (int level = 0; width > 0 || height > 0; ++level) {
-        glTexImage3D(GL_TEXTURE_2D_ARRAY, level, GL_SRGB8_ALPHA8, std::max(width, 1),
-                     std::max(height, 1), capacity, 0, GL_RGBA, GL_UNSIGNED_BYTE, nullptr);
-        if (width <= 1 && height <= 1)
-            break;
-        width /= 2;
-        height /= 2;
-    }
-    setSampling();
-    // The new storage is empty: the surfaces in use go back into their old layers.
+    allocateStorage(capacity);
+    // The new storage is empty: the surfaces loaded before go back into their layers.
     for (auto& [name, entry] : entries_)
-        if (entry.layer >= 0 && !upload(name, entry.layer))
-            entry.layer = -1;
-    for (int layer = capacity_; layer < capacity; ++layer)
-        freeLayers_.push_back(layer);
+        if (entry.loaded && entry.layer >= 0 && !upload(name, entry.layer))
+            blank(entry.layer);
+    for (int layer = handedOut_; layer < capacity; ++layer)
+        free_.push_back(layer);
+    handedOut_ = capacity;
     capacity_ = capacity;
 }
 
@@ -112,15 +113,19 @@ bool SurfaceTextures::upload(const std::string& name, int layer) {
     const Image* image = source_ ? source_(name) : nullptr;
     if (image == nullptr || image->isNull())
         return false;
-    const bool fits = image->width == kLayerWidth && image->height == kLayerHeight;
-    const Image scaled = fits ? Image() : resampled(*image, kLayerWidth, kLayerHeight);
-    const Image& pixels = fits ? *image : scaled;
-    glBindTexture(GL_TEXTURE_2D_ARRAY, texture_.id());
-    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
-    glTexSubImage3D(GL_TEXTURE_2D_ARRAY, 0, 0, 0, layer, kLayerWidth, kLayerHeight, 1, GL_RGBA,
-                    GL_UNSIGNED_BYTE, pixels.pixels.data());
-    mipmapsStale_ = true;
+    if (image->width == kLayerWidth && image->height == kLayerHeight) {
+        setLayer(layer, image->pixels.data());
+    } else {
+        const Image scaled = resampled(*image, kLayerWidth, kLayerHeight);
+        setLayer(layer, scaled.pixels.data());
+    }
     return true;
+}
+
+void SurfaceTextures::blank(int layer) {
+    const std::vector<std::uint8_t> transparent(
+        static_cast<std::size_t>(kLayerWidth) * kLayerHeight * 4, 0);
+    setLayer(layer, transparent.data());
 }
 
 } // namespace orrery::render

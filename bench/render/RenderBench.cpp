@@ -8,6 +8,9 @@
 
 #include <epoxy/gl.h>
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <chrono>
 #include <cstdio>
 #include <fstream>
@@ -38,18 +41,20 @@ void resetPeakMemory() {
 struct Layout {
     int planets = 0;
     double radius = 24.0;
-    bool dressed = false; // styles and surfaces, or plain white spheres
+    bool dressed = false;    // styles and surfaces, or plain white spheres
+    double sceneScale = 1.0; // positions and camera scaled too
 };
 
-// Planets scattered through the view, the same for every radius once scaled by it, so
-// that only the radius differs between two runs of one count.
+// Planets scattered through a box in front of the camera, from 500 to 3000 units away:
+// 1,000 planets of the default radius cover about half of the picture, more planets cover
+// it several times over. Scaling the scene with the radius keeps the picture the same.
 void populate(orrery::SceneView& view, const Layout& layout) {
-    const double scale = layout.radius / 24.0;
+    const double scale = layout.sceneScale;
     view.updateCamera(45, 45, 0, 0, 500 * scale, true, true);
     std::mt19937 random(42);
-    std::uniform_real_distribution<double> across(-420, 420);
-    std::uniform_real_distribution<double> upDown(-230, 230);
-    std::uniform_real_distribution<double> depth(-400, 100);
+    std::uniform_real_distribution<double> across(-1200, 1200);
+    std::uniform_real_distribution<double> upDown(-700, 700);
+    std::uniform_real_distribution<double> depth(-2500, 0);
     const orrery::Color colour{0.3, 0.5, 0.9, 1.0};
     for (int i = 0; i < layout.planets; ++i) {
         const std::string x = std::to_string(across(random) * scale);
@@ -64,7 +69,27 @@ void populate(orrery::SceneView& view, const Layout& layout) {
     }
 }
 
+// How many times over the planets' silhouettes would paint the picture.
+double screenCoverage(const orrery::SceneView& view) {
+    const orrery::CameraProjection camera = view.projection(kWidth, kHeight);
+    double area = 0.0;
+    for (const auto& node : view.scene().rootNode().children()) {
+        if (!node->sphere())
+            continue;
+        const orrery::Vec3 centre = camera.project(node->position());
+        const double distance = camera.eye().z - node->position().z;
+        const orrery::Vec3 rim =
+            camera.project(node->position() + orrery::Vec3{0, node->sphere()->radius, 0});
+        const double radius = rim.y - centre.y;
+        if (distance > 0 && centre.x > -radius && centre.x < kWidth + radius &&
+            centre.y > -radius && centre.y < kHeight + radius)
+            area += 3.14159265 * radius * radius;
+    }
+    return area / (static_cast<double>(kWidth) * kHeight);
+}
+
 struct Figures {
+    double coverage = 0.0;
     double framesPerSecond = 0.0;
     double dragFramesPerSecond = 0.0; // a planet moves between frames
     double peakMiB = 0.0;
@@ -92,6 +117,7 @@ Figures measure(orrery::Renderer& renderer, GLuint target, const Layout& layout,
         return frames / seconds;
     };
     Figures figures;
+    figures.coverage = screenCoverage(view);
     figures.framesPerSecond = timeFrames([](int) {});
     // Dragging: a planet moves before every frame, so the planet data is rebuilt and
     // uploaded each time.
@@ -124,57 +150,91 @@ void hitTestTimes(int planets) {
                 seconds * 1000.0 / kClicks, hits, kClicks);
 }
 
+struct Bench {
+    std::unique_ptr<orrery::HeadlessContext> context;
+    orrery::imageio::SurfaceLibrary surfaces;
+    std::unique_ptr<orrery::Renderer> renderer;
+    GLuint colour = 0;
+    GLuint target = 0;
+
+    bool start() {
+        std::string error;
+        context = orrery::HeadlessContext::create(&error);
+        if (context)
+            renderer = orrery::Renderer::create(
+                [this](const std::string& name) { return surfaces.surfaceNamed(name); }, &error);
+        if (!renderer) {
+            std::fprintf(stderr, "bench_render: %s\n", error.c_str());
+            return false;
+        }
+        // Stands in for the window's framebuffer.
+        glGenRenderbuffers(1, &colour);
+        glBindRenderbuffer(GL_RENDERBUFFER, colour);
+        glRenderbufferStorage(GL_RENDERBUFFER, GL_RGBA8, kWidth, kHeight);
+        glGenFramebuffers(1, &target);
+        glBindFramebuffer(GL_FRAMEBUFFER, target);
+        glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, colour);
+        return true;
+    }
+
+    ~Bench() {
+        renderer.reset();
+        if (target != 0) {
+            glDeleteFramebuffers(1, &target);
+            glDeleteRenderbuffers(1, &colour);
+        }
+    }
+};
+
+// Measures one layout in a process of its own, so that its peak memory is its own.
+bool runOne(const Layout& layout, bool quick, bool describe = false) {
+    std::fflush(stdout);
+    const pid_t child = fork();
+    if (child < 0)
+        return false;
+    if (child == 0) {
+        Bench bench;
+        if (!bench.start())
+            _exit(2);
+        if (describe)
+            std::printf("%s via %s, %d x %d\n%7s %-16s %7s %9s %9s %9s %9s\n",
+                        bench.renderer->description().c_str(), bench.context->route().c_str(),
+                        kWidth, kHeight, "planets", "material", "radius", "coverage", "fps",
+                        "drag fps", "peak MiB");
+        const Figures f = measure(*bench.renderer, bench.target, layout, quick);
+        std::printf("%7d %-16s %7.0f %9.2f %9.1f %9.1f %9.1f\n", layout.planets,
+                    layout.dressed ? "styled+surfaced" : "plain", layout.radius, f.coverage,
+                    f.framesPerSecond, f.dragFramesPerSecond, f.peakMiB);
+        std::fflush(stdout);
+        _exit(0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     const bool quick = argc > 1 && std::string(argv[1]) == "--quick";
-    std::setvbuf(stdout, nullptr, _IOLBF, 0); // figures appear as they are measured
-    std::string error;
-    const auto context = orrery::HeadlessContext::create(&error);
-    if (!context) {
-        std::fprintf(stderr, "bench_render: %s\n", error.c_str());
-        return 2;
-    }
-    orrery::imageio::SurfaceLibrary surfaces;
-    auto renderer = orrery::Renderer::create(
-        [&](const std::string& name) { return surfaces.surfaceNamed(name); }, &error);
-    if (!renderer) {
-        std::fprintf(stderr, "bench_render: %s\n", error.c_str());
-        return 2;
-    }
-    // The window's framebuffer stands in as a plain RGBA target.
-    GLuint colour = 0;
-    GLuint target = 0;
-    glGenRenderbuffers(1, &colour);
-    glBindRenderbuffer(GL_RENDERBUFFER, colour);
-    glRenderbufferStorage(GL_RENDERBUFFER, GL_RGBA8, kWidth, kHeight);
-    glGenFramebuffers(1, &target);
-    glBindFramebuffer(GL_FRAMEBUFFER, target);
-    glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, colour);
-
-    renderer->render(orrery::SceneView(), target, kWidth, kHeight); // compile, allocate
-    std::printf("%s via %s, %d x %d\n", renderer->description().c_str(), context->route().c_str(),
-                kWidth, kHeight);
-    std::printf("%-26s %10s %12s %14s\n", "planets", "fps", "drag fps", "peak MiB");
+    bool first = true;
     for (const bool dressed : {false, true}) {
         for (const int planets : {1, 100, 1000, 10000, 100000}) {
-            const Figures f = measure(*renderer, target, Layout{planets, 24.0, dressed}, quick);
-            std::printf("%7d %-18s %10.1f %12.1f %14.1f\n", planets,
-                        dressed ? "styled+surfaced" : "plain", f.framesPerSecond,
-                        f.dragFramesPerSecond, f.peakMiB);
+            if (!runOne(Layout{planets, 24.0, dressed}, quick, first))
+                return 2;
+            first = false;
         }
     }
-    std::printf("memory against radius, 1000 styled+surfaced planets (same picture, scaled):\n");
-    for (const double radius : {5.0, 5000.0}) {
-        const Figures f = measure(*renderer, target, Layout{1000, radius, true}, quick);
-        std::printf("  radius %6.0f: %10.1f fps %14.1f peak MiB\n", radius, f.framesPerSecond,
-                    f.peakMiB);
-    }
+    // Memory must not follow the radius: the same picture drawn at two scales.
+    for (const double radius : {5.0, 5000.0})
+        if (!runOne(Layout{1000, radius, true, radius / 24.0}, quick))
+            return 2;
+    // What costs is the pixels covered, not the number of planets: smaller planets, the
+    // same coverage as 1,000 of the default size.
+    for (const auto& [planets, radius] : {std::pair{10000, 7.6}, std::pair{100000, 2.4}})
+        if (!runOne(Layout{planets, radius, true}, quick))
+            return 2;
     for (const int planets : {1000, 100000})
         hitTestTimes(planets);
-
-    renderer.reset();
-    glDeleteFramebuffers(1, &target);
-    glDeleteRenderbuffers(1, &colour);
     return 0;
 }

@@ -4,7 +4,9 @@
 
 namespace orrery {
 
-void PlanetList::append(PlanetRecord record) { records_.push_back(std::move(record)); }
+void PlanetList::append(PlanetRecord record) {
+    records_.push_back(std::move(record));
+}
 
 bool PlanetList::replace(std::size_t index, PlanetRecord record) {
     if (index >= records_.size())

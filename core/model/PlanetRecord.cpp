@@ -4,7 +4,9 @@
 
 namespace orrery {
 
-std::string_view keyName(PlanetKey key) { return kPlanetKeyNames[static_cast<std::size_t>(key)]; }
+std::string_view keyName(PlanetKey key) {
+    return kPlanetKeyNames[static_cast<std::size_t>(key)];
+}
 
 std::optional<PlanetKey> planetKeyNamed(std::string_view name) {
     for (std::size_t i = 0; i < kPlanetKeyNames.size(); ++i)
@@ -15,21 +17,36 @@ std::optional<PlanetKey> planetKeyNamed(std::string_view name) {
 
 const std::string* PlanetRecord::text(PlanetKey key) const {
     switch (key) {
-    case PlanetKey::tsecs: return &tsecs;
-    case PlanetKey::name: return &name;
-    case PlanetKey::state: return &state;
-    case PlanetKey::styleindex: return &styleindex;
-    case PlanetKey::surfaceindex: return &surfaceindex;
-    case PlanetKey::xvalue: return &xvalue;
-    case PlanetKey::yvalue: return &yvalue;
-    case PlanetKey::zvalue: return &zvalue;
-    case PlanetKey::radius: return &radius;
-    case PlanetKey::color: return nullptr;
-    case PlanetKey::value1: return &reserved[0];
-    case PlanetKey::value2: return &reserved[1];
-    case PlanetKey::value3: return &reserved[2];
-    case PlanetKey::value4: return &reserved[3];
-    case PlanetKey::value5: return &reserved[4];
+    case PlanetKey::tsecs:
+        return &tsecs;
+    case PlanetKey::name:
+        return &name;
+    case PlanetKey::state:
+        return &state;
+    case PlanetKey::styleindex:
+        return &styleindex;
+    case PlanetKey::surfaceindex:
+        return &surfaceindex;
+    case PlanetKey::xvalue:
+        return &xvalue;
+    case PlanetKey::yvalue:
+        return &yvalue;
+    case PlanetKey::zvalue:
+        return &zvalue;
+    case PlanetKey::radius:
+        return &radius;
+    case PlanetKey::color:
+        return nullptr;
+    case PlanetKey::value1:
+        return &reserved[0];
+    case PlanetKey::value2:
+        return &reserved[1];
+    case PlanetKey::value3:
+        return &reserved[2];
+    case PlanetKey::value4:
+        return &reserved[3];
+    case PlanetKey::value5:
+        return &reserved[4];
     }
     return nullptr;
 }

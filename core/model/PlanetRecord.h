@@ -31,9 +31,8 @@ enum class PlanetKey {
 
 inline constexpr std::size_t kPlanetKeyCount = 15;
 inline constexpr std::array<std::string_view, kPlanetKeyCount> kPlanetKeyNames{
-    "tsecs",  "name",   "state",  "styleindex", "surfaceindex",
-    "xvalue", "yvalue", "zvalue", "radius",     "color",
-    "value1", "value2", "value3", "value4",     "value5"};
+    "tsecs",  "name",  "state",  "styleindex", "surfaceindex", "xvalue", "yvalue", "zvalue",
+    "radius", "color", "value1", "value2",     "value3",       "value4", "value5"};
 
 std::string_view keyName(PlanetKey key);
 std::optional<PlanetKey> planetKeyNamed(std::string_view name);

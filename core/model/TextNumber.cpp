@@ -7,7 +7,9 @@
 namespace orrery {
 namespace {
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 bool isLeadingSpace(char c) {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\v' || c == '\f';
 }
@@ -72,8 +74,8 @@ float floatValue(std::string_view text) {
         // from_chars leaves the value alone; tell overflow from underflow by the exponent.
         const std::string_view number = text.substr(0, length);
         const auto e = number.find_first_of("eE");
-        const bool tiny = e != std::string_view::npos && e + 1 < number.size() &&
-                          number[e + 1] == '-';
+        const bool tiny =
+            e != std::string_view::npos && e + 1 < number.size() && number[e + 1] == '-';
         value = tiny ? 0.0f : std::numeric_limits<float>::infinity();
     }
     (void)end;
@@ -117,8 +119,8 @@ std::string formatFixed(double value, int decimals) {
     if (std::isinf(value))
         return value < 0 ? "-inf" : "inf";
     char buffer[512];
-    const auto [end, error] = std::to_chars(buffer, buffer + sizeof buffer, value,
-                                            std::chars_format::fixed, decimals);
+    const auto [end, error] =
+        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, decimals);
     if (error != std::errc())
         return "0";
     return std::string(buffer, end);

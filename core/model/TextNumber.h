@@ -23,7 +23,9 @@ bool isInteger(std::string_view text);
 
 // printf's "%f", "%0.1f" and "%0.0f": fixed notation with that many decimals.
 std::string formatFixed(double value, int decimals);
-inline std::string formatF(double value) { return formatFixed(value, 6); }
+inline std::string formatF(double value) {
+    return formatFixed(value, 6);
+}
 
 // The text of a dragged position: general format with at most 7 significant digits and
 // no trailing zeros (12.5 gives "12.5", 100 gives "100").

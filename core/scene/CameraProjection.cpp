@@ -50,7 +50,7 @@ CameraProjection::CameraProjection(Vec3 eye, double yFovDegrees, double viewWidt
                                    double viewHeight, DepthRange range)
     : eye_(eye), width_(viewWidth > 0.0 ? viewWidth : 1.0),
       height_(viewHeight > 0.0 ? viewHeight : 1.0), aspect_(width_ / height_),
-      focal_(1.0 / std::tan(yFovDegrees * std::numbers::pi / 360.0)), range_(range),
+      focal_(1.0 / std::tan(yFovDegrees * std::numbers::pi / 360.0)),
       depthA_((range.zFar + range.zNear) / (range.zNear - range.zFar)),
       depthB_(2.0 * range.zFar * range.zNear / (range.zNear - range.zFar)) {}
 

@@ -30,9 +30,6 @@ public:
                      DepthRange range);
 
     Vec3 eye() const { return eye_; }
-    double viewWidth() const { return width_; }
-    double viewHeight() const { return height_; }
-    DepthRange depthRange() const { return range_; }
 
     // Scene point to (view x, view y, depth).
     Vec3 project(Vec3 scenePoint) const;
@@ -52,8 +49,7 @@ private:
     double width_;
     double height_;
     double aspect_;
-    double focal_; // 1 / tan(yFov / 2)
-    DepthRange range_;
+    double focal_;  // 1 / tan(yFov / 2)
     double depthA_; // clip z = depthA_ * eyeZ + depthB_, clip w = -eyeZ
     double depthB_;
 };

@@ -4,15 +4,25 @@
 
 namespace orrery {
 
-void Settings::openCreateDB0() { createSettingsFileIfMissing(paths_.filePath0, windowsTable()); }
-void Settings::openCreateDB1() { createSettingsFileIfMissing(paths_.filePath1, preferencesTable()); }
-void Settings::openCreateDB2() { createSettingsFileIfMissing(paths_.filePath2, generalTable()); }
+void Settings::openCreateDB0() {
+    createSettingsFileIfMissing(paths_.filePath0, windowsTable());
+}
+void Settings::openCreateDB1() {
+    createSettingsFileIfMissing(paths_.filePath1, preferencesTable());
+}
+void Settings::openCreateDB2() {
+    createSettingsFileIfMissing(paths_.filePath2, generalTable());
+}
 
-void Settings::readWindows() { readSettings(paths_.filePath0, windowsTable(), windowArray); }
+void Settings::readWindows() {
+    readSettings(paths_.filePath0, windowsTable(), windowArray);
+}
 void Settings::readPreferences() {
     readSettings(paths_.filePath1, preferencesTable(), preferenceArray);
 }
-void Settings::readGeneral() { readSettings(paths_.filePath2, generalTable(), checkboxArray); }
+void Settings::readGeneral() {
+    readSettings(paths_.filePath2, generalTable(), checkboxArray);
+}
 
 void Settings::saveData0(std::string_view value, std::string_view field) {
     saveSetting(paths_.filePath0, windowsTable(), value, field);

@@ -46,8 +46,8 @@ std::string insertStatement(const SettingsTable& table, const std::string& field
 
 bool writeDefaults(const std::filesystem::path& file, const SettingsTable& table) {
     sqlite3* db = nullptr;
-    const int rc = sqlite3_open_v2(file.c_str(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE,
-                                   nullptr);
+    const int rc =
+        sqlite3_open_v2(file.c_str(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
     Connection connection(db);
     if (rc != SQLITE_OK)
         return false;

@@ -14,7 +14,9 @@ std::string entry(const std::vector<std::string>& list, std::size_t position) {
     return position < list.size() ? list[position] : std::string();
 }
 
-bool isUnset(const std::string& value) { return value.empty() || value == "0"; }
+bool isUnset(const std::string& value) {
+    return value.empty() || value == "0";
+}
 
 std::filesystem::path folderOrDocuments(const std::string& value,
                                         const std::filesystem::path& documents) {

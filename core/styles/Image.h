@@ -25,14 +25,17 @@ struct Image {
 
     bool isNull() const {
         return width <= 0 || height <= 0 ||
-               pixels.size() != static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 4;
+               pixels.size() !=
+                   static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 4;
     }
     std::size_t stride() const { return static_cast<std::size_t>(width) * 4; }
     std::uint8_t* pixel(int x, int y) {
-        return pixels.data() + static_cast<std::size_t>(y) * stride() + static_cast<std::size_t>(x) * 4;
+        return pixels.data() + static_cast<std::size_t>(y) * stride() +
+               static_cast<std::size_t>(x) * 4;
     }
     const std::uint8_t* pixel(int x, int y) const {
-        return pixels.data() + static_cast<std::size_t>(y) * stride() + static_cast<std::size_t>(x) * 4;
+        return pixels.data() + static_cast<std::size_t>(y) * stride() +
+               static_cast<std::size_t>(x) * 4;
     }
 };
 

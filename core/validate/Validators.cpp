@@ -5,12 +5,14 @@
 namespace orrery {
 namespace {
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 // The line terminators before which "$" still matches at the end of the text.
 std::string_view withoutFinalLineTerminator(std::string_view text) {
-    for (std::string_view ending : {"\r\n", "\n", "\r", "\v", "\f", "\xC2\x85", "\xE2\x80\xA8",
-                                    "\xE2\x80\xA9"}) {
+    for (std::string_view ending :
+         {"\r\n", "\n", "\r", "\v", "\f", "\xC2\x85", "\xE2\x80\xA8", "\xE2\x80\xA9"}) {
         if (text.size() >= ending.size() && text.substr(text.size() - ending.size()) == ending)
             return text.substr(0, text.size() - ending.size());
     }
@@ -36,7 +38,9 @@ bool matchesNumberBody(std::string_view text) {
     return fraction > 0;
 }
 
-bool isBlank(char c) { return c == ' ' || c == '\t'; }
+bool isBlank(char c) {
+    return c == ' ' || c == '\t';
+}
 
 } // namespace
 
@@ -56,11 +60,17 @@ std::string RemoveSpace(std::string_view text) {
     return std::string(text.substr(begin, end - begin));
 }
 
-bool validateAddText(std::string_view text) { return !text.empty() && !RemoveSpace(text).empty(); }
+bool validateAddText(std::string_view text) {
+    return !text.empty() && !RemoveSpace(text).empty();
+}
 
-bool validateCreatePlanet(std::string_view text) { return validateAddText(text); }
+bool validateCreatePlanet(std::string_view text) {
+    return validateAddText(text);
+}
 
-bool validatePosNegFloat(std::string_view text) { return isNumber(text); }
+bool validatePosNegFloat(std::string_view text) {
+    return isNumber(text);
+}
 
 bool validatePosRadius(std::string_view text) {
     return isNumber(text) && floatValue(text) >= 0.1f;

@@ -35,11 +35,5 @@ TEST(ImageResample, EnlargingKeepsColoursAndWrapsAroundTheEquator) {
     EXPECT_EQ(wide.pixel(5, 1)[2], 175);
 }
 
-TEST(ImageResample, EmptyInputGivesTransparentOutput) {
-    const Image out = resampled(Image(), 4, 4);
-    ASSERT_EQ(out.width, 4);
-    EXPECT_EQ(out.pixel(3, 3)[3], 0);
-}
-
 } // namespace
 } // namespace orrery::render

@@ -80,7 +80,7 @@ TEST(PlanetInstances, MaterialsBecomeColourRampAndSurfaceLayer) {
     EXPECT_EQ(plain.surfaceLayer, -1.0f);
 
     const PlanetInstance& coloured = instances[1];
-    EXPECT_EQ(coloured.color[1], 0.5f);
+    EXPECT_NEAR(coloured.color[1], 0.2140, 1e-4); // sRGB 0.5 in linear light
     EXPECT_EQ(coloured.color[3], 0.5f);
     EXPECT_EQ(coloured.rampRow, -1.0f);
     EXPECT_EQ(coloured.surfaceLayer, 5.0f);

@@ -17,7 +17,7 @@ TEST(FloatValue, TakesTheLongestLeadingDecimalNumber) {
     EXPECT_EQ(floatValue("+.5"), 0.5f);
     EXPECT_EQ(floatValue("5."), 5.0f);
     EXPECT_EQ(floatValue("1e3"), 1000.0f);
-    EXPECT_EQ(floatValue("2e"), 2.0f);    // an exponent without digits is not part of it
+    EXPECT_EQ(floatValue("2e"), 2.0f); // an exponent without digits is not part of it
     EXPECT_EQ(floatValue("3e+x"), 3.0f);
     EXPECT_EQ(floatValue("."), 0.0f);
     EXPECT_EQ(floatValue("-"), 0.0f);

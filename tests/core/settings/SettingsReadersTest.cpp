@@ -70,8 +70,7 @@ TEST(WindowPlacement, StoredFrameOnlyWhenItHasASize) {
     EXPECT_EQ(mainWindowPlacement(true, stored, true).kind, WindowPlacement::Kind::Centre);
 
     stored[1] = "-5";
-    EXPECT_EQ(mainWindowPlacement(true, stored, false).kind,
-              WindowPlacement::Kind::CentreAndStore);
+    EXPECT_EQ(mainWindowPlacement(true, stored, false).kind, WindowPlacement::Kind::CentreAndStore);
     EXPECT_EQ(mainWindowPlacement(true, {"1e30", "1e30"}, false).kind,
               WindowPlacement::Kind::CentreAndStore);
 }

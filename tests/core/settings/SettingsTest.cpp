@@ -62,17 +62,17 @@ TEST_F(SettingsFiles, RowsKeepTheirFieldsInOrder) {
     sqlite3* db = nullptr;
     ASSERT_EQ(sqlite3_open((appFolder() / "Data0.data").c_str(), &db), SQLITE_OK);
     sqlite3_stmt* statement = nullptr;
-    ASSERT_EQ(sqlite3_prepare_v2(db, "SELECT field FROM Windows ORDER BY ID", -1, &statement,
-                                 nullptr),
-              SQLITE_OK);
+    ASSERT_EQ(
+        sqlite3_prepare_v2(db, "SELECT field FROM Windows ORDER BY ID", -1, &statement, nullptr),
+        SQLITE_OK);
     std::vector<std::string> fields;
     while (sqlite3_step(statement) == SQLITE_ROW)
         fields.emplace_back(reinterpret_cast<const char*>(sqlite3_column_text(statement, 0)));
     sqlite3_finalize(statement);
     sqlite3_close(db);
-    EXPECT_EQ(fields, (std::vector<std::string>{"Width0", "Height0", "Left0", "Top0", "Width1",
-                                                "Height1", "Left1", "Top1", "Width2", "Height2",
-                                                "Left2", "Top2"}));
+    EXPECT_EQ(fields,
+              (std::vector<std::string>{"Width0", "Height0", "Left0", "Top0", "Width1", "Height1",
+                                        "Left1", "Top1", "Width2", "Height2", "Left2", "Top2"}));
     EXPECT_EQ(preferencesTable().fields.back(), "Value99");
     EXPECT_EQ(generalTable().fields.front(), "Value01");
 }
@@ -134,8 +134,7 @@ TEST_F(SettingsFiles, RandomBytesGiveAnEmptyListAndALoggedFailedUpdate) {
     settings.saveData2("1", "Value01");
     setLogSink(previous);
     ASSERT_EQ(messages.size(), 1u);
-    EXPECT_EQ(messages[0].rfind("Error while creating update statement. '", 0), 0u)
-        << messages[0];
+    EXPECT_EQ(messages[0].rfind("Error while creating update statement. '", 0), 0u) << messages[0];
 }
 
 TEST_F(SettingsFiles, AnUnwritableFolderLeavesTheListsEmpty) {

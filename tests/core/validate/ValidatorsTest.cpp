@@ -11,9 +11,8 @@ TEST(IsNumber, AcceptsSignedDecimals) {
 }
 
 TEST(IsNumber, RefusesEverythingElse) {
-    for (const char* text :
-         {"5.", "1e3", " 5", "5 ", "1,5", "", "+", "-", ".", "1.2.3", "--5", "0x10", "nan",
-          "5\n6", "\n", "\xD9\xA5" /* an Arabic-Indic five */})
+    for (const char* text : {"5.", "1e3", " 5", "5 ", "1,5", "", "+", "-", ".", "1.2.3", "--5",
+                             "0x10", "nan", "5\n6", "\n", "\xD9\xA5" /* an Arabic-Indic five */})
         EXPECT_FALSE(isNumber(text)) << text;
 }
 
@@ -63,14 +62,13 @@ INSTANTIATE_TEST_SUITE_P(
                     BoundCase{validatePosRadius, "-1", false},
                     BoundCase{validatePosRadius, "5000", true}));
 
-INSTANTIATE_TEST_SUITE_P(
-    Position, ValidatorBounds,
-    testing::Values(BoundCase{validatePosNegFloat, "-12.5", true},
-                    BoundCase{validatePosNegFloat, "12.", false},
-                    BoundCase{validatePosNegFloat, "1e2", false},
-                    BoundCase{validatePosOnlyFloat, "0", false},
-                    BoundCase{validatePosOnlyFloat, "0.001", true},
-                    BoundCase{validatePosOnlyFloat, "-0.001", false}));
+INSTANTIATE_TEST_SUITE_P(Position, ValidatorBounds,
+                         testing::Values(BoundCase{validatePosNegFloat, "-12.5", true},
+                                         BoundCase{validatePosNegFloat, "12.", false},
+                                         BoundCase{validatePosNegFloat, "1e2", false},
+                                         BoundCase{validatePosOnlyFloat, "0", false},
+                                         BoundCase{validatePosOnlyFloat, "0.001", true},
+                                         BoundCase{validatePosOnlyFloat, "-0.001", false}));
 
 INSTANTIATE_TEST_SUITE_P(
     FieldOfView, ValidatorBounds,
@@ -78,16 +76,15 @@ INSTANTIATE_TEST_SUITE_P(
                     BoundCase{validateFov, "29.9", false}, BoundCase{validateFov, "90.5", false},
                     BoundCase{validateFov, "95", false}, BoundCase{validateFov, "45.0", true}));
 
-INSTANTIATE_TEST_SUITE_P(
-    Unused, ValidatorBounds,
-    testing::Values(BoundCase{validateOneZeroFloat, "0", true},
-                    BoundCase{validateOneZeroFloat, "1", true},
-                    BoundCase{validateOneZeroFloat, "1.01", false},
-                    BoundCase{validateOneZeroFloat, "-0.01", false},
-                    BoundCase{validatePosNegFloat2, "-360", true},
-                    BoundCase{validatePosNegFloat2, "360", true},
-                    BoundCase{validatePosNegFloat2, "360.5", false},
-                    BoundCase{validatePosNegFloat2, "-361", false}));
+INSTANTIATE_TEST_SUITE_P(Unused, ValidatorBounds,
+                         testing::Values(BoundCase{validateOneZeroFloat, "0", true},
+                                         BoundCase{validateOneZeroFloat, "1", true},
+                                         BoundCase{validateOneZeroFloat, "1.01", false},
+                                         BoundCase{validateOneZeroFloat, "-0.01", false},
+                                         BoundCase{validatePosNegFloat2, "-360", true},
+                                         BoundCase{validatePosNegFloat2, "360", true},
+                                         BoundCase{validatePosNegFloat2, "360.5", false},
+                                         BoundCase{validatePosNegFloat2, "-361", false}));
 
 } // namespace
 } // namespace orrery
