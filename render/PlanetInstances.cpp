@@ -91,6 +91,27 @@ void collectPlanetInstances(const SceneNode& root, Vec3 eye, const SurfaceLayerL
         [](const PlanetInstance& a, const PlanetInstance& b) { return power(a) > power(b); });
 }
 
+void groupPlanetDraws(const std::vector<PlanetInstance>& instances,
+                      std::vector<PlanetDraw>& draws) {
+    draws.clear();
+    const auto textured = [&instances](std::size_t i) {
+        return instances[i].rampRow >= 0.0f || instances[i].surfaceLayer >= 0.0f;
+    };
+    for (std::size_t first = 0; first < instances.size();) {
+        std::size_t end = first + 1;
+        while (end < instances.size() && textured(end) == textured(first))
+            ++end;
+        const std::size_t count = end - first;
+        const bool joinsTextured =
+            textured(first) || (count < kShortestPlainDraw && count < instances.size());
+        if (!draws.empty() && draws.back().textured == joinsTextured)
+            draws.back().count += count;
+        else
+            draws.push_back(PlanetDraw{first, count, joinsTextured});
+        first = end;
+    }
+}
+
 std::optional<SceneLight> findLight(const SceneNode& root) {
     return firstLight(root, root.position());
 }

@@ -30,6 +30,21 @@ using SurfaceLayerLookup = std::function<int(const std::string& surfaceName)>;
 void collectPlanetInstances(const SceneNode& root, Vec3 eye, const SurfaceLayerLookup& layerOf,
                             std::vector<PlanetInstance>& instances);
 
+// Consecutive planets, in drawing order, drawn by one shader: with textures, or plain.
+struct PlanetDraw {
+    std::size_t first = 0;
+    std::size_t count = 0;
+    bool textured = false;
+};
+
+// Fewer plain planets in a row than this, among textured ones, are drawn with the textured
+// shader: a draw of their own would cost more than it saves.
+constexpr std::size_t kShortestPlainDraw = 16;
+
+// Splits the planets into draws that keep their order, replacing the contents of `draws`
+// (its capacity is reused), so that plain planets skip the texture work.
+void groupPlanetDraws(const std::vector<PlanetInstance>& instances, std::vector<PlanetDraw>& draws);
+
 struct SceneLight {
     Vec3 position; // in scene coordinates
     Color color;

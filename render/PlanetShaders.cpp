@@ -49,8 +49,10 @@ void main() {
 
 // Ray casting per pixel: exact silhouette, depth and normal of a true sphere. The edge is
 // smoothed by the share of the pixel the silhouette covers; planets arrive back to front,
-// so a soft edge blends over whatever lies behind it.
-const char* const kPlanetFragmentShader = R"(#version 330 core
+// so a soft edge blends over whatever lies behind it. Built twice: with TEXTURED for planets
+// with a gradient or a surface, and without for plain coloured ones, because a software
+// renderer runs both sides of a branch and would pay for the textures on every pixel.
+constexpr const char* kPlanetFragmentShader = R"(
 const float kPi = 3.14159265358979;
 
 uniform mat4 projection;
@@ -58,9 +60,11 @@ uniform vec4 viewport;       // x, y, width, height in pixels
 uniform vec2 ndcToRay;
 uniform vec3 lightPosition;  // relative to the eye
 uniform vec3 lightColor;     // linear
+#ifdef TEXTURED
 uniform sampler2D gradientRamps;
 uniform float gradientRampCount;
 uniform sampler2DArray surfaces;
+#endif
 
 flat in vec3 vCenter;
 flat in float vRadius;
@@ -94,34 +98,42 @@ void main() {
     float inside = vRadius * vRadius - missDistance * missDistance;
     vec3 normal = inside > 0.0 ? (-miss - sqrt(inside) * direction) / vRadius
                                : -miss / max(missDistance, 1e-30);
+#ifdef TEXTURED
+    // Slopes need all four pixels of a block, so they are taken before any pixel leaves.
+    vec3 normalDx = dFdx(normal);
+    vec3 normalDy = dFdy(normal);
+#endif
+    // Pixels beside the silhouette leave here, sparing them the work below (a software
+    // renderer skips it when a whole block has left).
+    if (coverage <= 0.0 || along <= 0.0)
+        discard;
+
     vec3 surfacePoint = vCenter + normal * vRadius;
     vec4 clip = projection * vec4(surfacePoint, 1.0);
     gl_FragDepth = clamp(0.5 * clip.z / clip.w + 0.5, 0.0, 1.0);
 
-    // Equirectangular coordinates: v from the north pole (+y) down, u around the equator
-    // (0.5 facing +z, growing towards +x). Only textured planets need them; the branches
-    // depend on the planet alone, so all pixels of a block take the same way.
     vec4 diffuse = vColor;
     vec3 emission = vec3(0.0);
-    if (vLayers.x >= 0.0 || vLayers.y >= 0.0) {
-        float v = acos(clamp(normal.y, -1.0, 1.0)) / kPi;
-        if (vLayers.x >= 0.0)
-            diffuse = textureLod(gradientRamps, vec2(v, (vLayers.x + 0.5) / gradientRampCount), 0.0);
-        if (vLayers.y >= 0.0) {
-            float u = atan(normal.x, normal.z) / (2.0 * kPi) + 0.5;
-            // u jumps from 1 to 0 behind the sphere. A copy of u that jumps in front
-            // instead is smooth there, so the smaller of the two slopes is the true one.
-            float uShifted = fract(u + 0.5);
-            vec2 slopeU = vec2(dFdx(u), dFdy(u));
-            vec2 slopeShifted = vec2(dFdx(uShifted), dFdy(uShifted));
-            if (max(abs(slopeShifted.x), abs(slopeShifted.y)) < max(abs(slopeU.x), abs(slopeU.y)))
-                slopeU = slopeShifted;
-            vec2 slopeV = vec2(dFdx(v), dFdy(v));
-            vec4 glow = textureGrad(surfaces, vec3(u, v, vLayers.y), vec2(slopeU.x, slopeV.x),
-                                    vec2(slopeU.y, slopeV.y));
-            emission = glow.rgb * glow.a;
-        }
+#ifdef TEXTURED
+    // Equirectangular coordinates: v from the north pole (+y) down, u around the equator
+    // (0.5 facing +z, growing towards +x). The branches depend on the planet alone, so all
+    // pixels of a block take the same way.
+    float v = acos(clamp(normal.y, -1.0, 1.0)) / kPi;
+    if (vLayers.x >= 0.0)
+        diffuse = textureLod(gradientRamps, vec2(v, (vLayers.x + 0.5) / gradientRampCount), 0.0);
+    if (vLayers.y >= 0.0) {
+        float u = atan(normal.x, normal.z) / (2.0 * kPi) + 0.5;
+        // The slopes of u and v follow from the normal's by the chain rule: unlike
+        // differences of u, they do not jump where u wraps from 1 to 0 behind the sphere.
+        float ring2 = max(normal.x * normal.x + normal.z * normal.z, 1e-12);
+        vec2 slopeU = (normal.z * vec2(normalDx.x, normalDy.x) -
+                       normal.x * vec2(normalDx.z, normalDy.z)) / (2.0 * kPi * ring2);
+        vec2 slopeV = -vec2(normalDx.y, normalDy.y) / (kPi * sqrt(ring2));
+        vec4 glow = textureGrad(surfaces, vec3(u, v, vLayers.y), vec2(slopeU.x, slopeV.x),
+                                vec2(slopeU.y, slopeV.y));
+        emission = glow.rgb * glow.a;
     }
+#endif
 
     // One omnidirectional light, Lambert only: no attenuation, no ambient, no specular.
     vec3 toLight = lightPosition - surfacePoint;
@@ -130,8 +142,6 @@ void main() {
     vec3 colour = diffuse.rgb * lightColor * lambert + emission;
     float alpha = diffuse.a * coverage;
     fragColor = vec4(linearToSrgb(clamp(colour, 0.0, 1.0)) * alpha, alpha);
-    if (coverage <= 0.0 || along <= 0.0)
-        discard;
 }
 )";
 
@@ -157,5 +167,10 @@ void main() {
                        : vec4(0.0);
 }
 )";
+
+std::string planetFragmentShader(bool textured) {
+    return std::string("#version 330 core\n") + (textured ? "#define TEXTURED\n" : "") +
+           kPlanetFragmentShader;
+}
 
 } // namespace orrery::render

@@ -35,7 +35,10 @@ const char* glText(GLenum name) {
     return text != nullptr ? text : "?";
 }
 
-struct PlanetUniforms {
+// A planet shader and where its uniforms are; uniforms it does not use stay at -1, which
+// OpenGL ignores.
+struct PlanetProgram {
+    GlObject program{GlObject::Kind::program};
     GLint projection = -1;
     GLint pixelAngle = -1;
     GLint viewport = -1;
@@ -85,11 +88,14 @@ private:
     void refreshPlanets(const Scene& scene, Vec3 eye);
     void uploadInstances();
     void drawPlanets(const CameraProjection& camera, int width, int height);
+    void useProgram(const PlanetProgram& shader, const CameraProjection& camera, int width,
+                    int height);
+    void pointInstancesAt(std::size_t first);
     void compose(GLuint target, int width, int height);
 
-    GlObject planetProgram{GlObject::Kind::program};
+    PlanetProgram plainPlanets;
+    PlanetProgram texturedPlanets;
     GlObject composeProgram{GlObject::Kind::program};
-    PlanetUniforms planet;
     ComposeUniforms composing;
     GlObject planetVertices{GlObject::Kind::vertexArray};
     GlObject composeVertices{GlObject::Kind::vertexArray};
@@ -101,6 +107,7 @@ private:
     PictureFramebuffer picture;
 
     std::vector<PlanetInstance> instances;
+    std::vector<PlanetDraw> draws;
     std::optional<SceneLight> light;
     std::uint64_t sceneId = 0;
     std::uint64_t sceneRevision = 0;
@@ -114,39 +121,37 @@ bool RendererState::build(std::string* error) {
                      glText(GL_VERSION);
         return false;
     }
-    auto planetShaders = buildProgram(kPlanetVertexShader, kPlanetFragmentShader, error);
+    for (PlanetProgram* shader : {&plainPlanets, &texturedPlanets}) {
+        auto built = buildProgram(kPlanetVertexShader,
+                                  planetFragmentShader(shader == &texturedPlanets), error);
+        if (!built)
+            return false;
+        shader->program = std::move(*built);
+        const GLuint p = shader->program.id();
+        shader->projection = glGetUniformLocation(p, "projection");
+        shader->pixelAngle = glGetUniformLocation(p, "pixelAngle");
+        shader->viewport = glGetUniformLocation(p, "viewport");
+        shader->ndcToRay = glGetUniformLocation(p, "ndcToRay");
+        shader->lightPosition = glGetUniformLocation(p, "lightPosition");
+        shader->lightColor = glGetUniformLocation(p, "lightColor");
+        shader->gradientRamps = glGetUniformLocation(p, "gradientRamps");
+        shader->gradientRampCount = glGetUniformLocation(p, "gradientRampCount");
+        shader->surfaces = glGetUniformLocation(p, "surfaces");
+    }
     auto composeShaders = buildProgram(kComposeVertexShader, kComposeFragmentShader, error);
-    if (!planetShaders || !composeShaders)
+    if (!composeShaders)
         return false;
-    planetProgram = std::move(*planetShaders);
     composeProgram = std::move(*composeShaders);
-
-    const GLuint p = planetProgram.id();
-    planet.projection = glGetUniformLocation(p, "projection");
-    planet.pixelAngle = glGetUniformLocation(p, "pixelAngle");
-    planet.viewport = glGetUniformLocation(p, "viewport");
-    planet.ndcToRay = glGetUniformLocation(p, "ndcToRay");
-    planet.lightPosition = glGetUniformLocation(p, "lightPosition");
-    planet.lightColor = glGetUniformLocation(p, "lightColor");
-    planet.gradientRamps = glGetUniformLocation(p, "gradientRamps");
-    planet.gradientRampCount = glGetUniformLocation(p, "gradientRampCount");
-    planet.surfaces = glGetUniformLocation(p, "surfaces");
     composing.canvas = glGetUniformLocation(composeProgram.id(), "canvas");
 
     instanceBuffer.create();
     planetVertices.create();
     glBindVertexArray(planetVertices.id());
-    glBindBuffer(GL_ARRAY_BUFFER, instanceBuffer.id());
-    constexpr auto stride = static_cast<GLsizei>(sizeof(PlanetInstance));
-    const auto attribute = [](GLuint index, GLint size, std::size_t offset) {
+    for (GLuint index = 0; index < 3; ++index) {
         glEnableVertexAttribArray(index);
-        glVertexAttribPointer(index, size, GL_FLOAT, GL_FALSE, stride,
-                              reinterpret_cast<const void*>(offset));
         glVertexAttribDivisor(index, 1);
-    };
-    attribute(0, 4, offsetof(PlanetInstance, center));
-    attribute(1, 4, offsetof(PlanetInstance, color));
-    attribute(2, 2, offsetof(PlanetInstance, rampRow));
+    }
+    pointInstancesAt(0);
     glBindVertexArray(0);
     composeVertices.create();
 
@@ -163,6 +168,7 @@ void RendererState::refreshPlanets(const Scene& scene, Vec3 eye) {
         instances);
     surfaces.endScene();
     light = findLight(scene.rootNode());
+    groupPlanetDraws(instances, draws);
     uploadInstances();
     sceneId = scene.id();
     sceneRevision = scene.revision();
@@ -200,33 +206,55 @@ void RendererState::drawPlanets(const CameraProjection& camera, int width, int h
     glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA); // the canvas holds premultiplied colour
     glDisable(GL_CULL_FACE);
 
-    glUseProgram(planetProgram.id());
-    const auto projection = toFloats(camera.matrix());
-    glUniformMatrix4fv(planet.projection, 1, GL_FALSE, projection.data());
-    glUniform1f(planet.pixelAngle, static_cast<float>(2.0 * camera.ndcToRayY() / height));
-    glUniform4f(planet.viewport, 0.0f, 0.0f, static_cast<float>(width), static_cast<float>(height));
-    glUniform2f(planet.ndcToRay, static_cast<float>(camera.ndcToRayX()),
-                static_cast<float>(camera.ndcToRayY()));
-    const Vec3 eye = camera.eye();
-    const Vec3 lightOffset = light ? light->position - eye : Vec3{};
-    glUniform3f(planet.lightPosition, static_cast<float>(lightOffset.x),
-                static_cast<float>(lightOffset.y), static_cast<float>(lightOffset.z));
-    const Color lightColor = light ? light->color : Color{0.0, 0.0, 0.0, 1.0};
-    glUniform3f(planet.lightColor, static_cast<float>(srgbToLinear(lightColor.red)),
-                static_cast<float>(srgbToLinear(lightColor.green)),
-                static_cast<float>(srgbToLinear(lightColor.blue)));
-    glUniform1i(planet.gradientRamps, kRampUnit);
-    glUniform1f(planet.gradientRampCount, static_cast<float>(kGradientRampCount));
-    glUniform1i(planet.surfaces, kSurfaceUnit);
     glActiveTexture(GL_TEXTURE0 + kRampUnit);
     glBindTexture(GL_TEXTURE_2D, gradientRamps.id());
     glActiveTexture(GL_TEXTURE0 + kSurfaceUnit);
     glBindTexture(GL_TEXTURE_2D_ARRAY, surfaces.texture());
-
     glBindVertexArray(planetVertices.id());
-    glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, static_cast<GLsizei>(instances.size()));
+    for (const PlanetDraw& draw : draws) {
+        useProgram(draw.textured ? texturedPlanets : plainPlanets, camera, width, height);
+        pointInstancesAt(draw.first);
+        glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, static_cast<GLsizei>(draw.count));
+    }
     glBindVertexArray(0);
     glActiveTexture(GL_TEXTURE0);
+}
+
+void RendererState::useProgram(const PlanetProgram& shader, const CameraProjection& camera,
+                               int width, int height) {
+    glUseProgram(shader.program.id());
+    const auto projection = toFloats(camera.matrix());
+    glUniformMatrix4fv(shader.projection, 1, GL_FALSE, projection.data());
+    glUniform1f(shader.pixelAngle, static_cast<float>(2.0 * camera.ndcToRayY() / height));
+    glUniform4f(shader.viewport, 0.0f, 0.0f, static_cast<float>(width), static_cast<float>(height));
+    glUniform2f(shader.ndcToRay, static_cast<float>(camera.ndcToRayX()),
+                static_cast<float>(camera.ndcToRayY()));
+    const Vec3 eye = camera.eye();
+    const Vec3 lightOffset = light ? light->position - eye : Vec3{};
+    glUniform3f(shader.lightPosition, static_cast<float>(lightOffset.x),
+                static_cast<float>(lightOffset.y), static_cast<float>(lightOffset.z));
+    const Color lightColor = light ? light->color : Color{0.0, 0.0, 0.0, 1.0};
+    glUniform3f(shader.lightColor, static_cast<float>(srgbToLinear(lightColor.red)),
+                static_cast<float>(srgbToLinear(lightColor.green)),
+                static_cast<float>(srgbToLinear(lightColor.blue)));
+    glUniform1i(shader.gradientRamps, kRampUnit);
+    glUniform1f(shader.gradientRampCount, static_cast<float>(kGradientRampCount));
+    glUniform1i(shader.surfaces, kSurfaceUnit);
+}
+
+// Draws start at their first planet by moving where the per-planet attributes are read:
+// OpenGL 3.3 has no base instance.
+void RendererState::pointInstancesAt(std::size_t first) {
+    constexpr auto stride = static_cast<GLsizei>(sizeof(PlanetInstance));
+    const auto attribute = [first](GLuint index, GLint size, std::size_t offset) {
+        glVertexAttribPointer(
+            index, size, GL_FLOAT, GL_FALSE, stride,
+            reinterpret_cast<const void*>(first * sizeof(PlanetInstance) + offset));
+    };
+    glBindBuffer(GL_ARRAY_BUFFER, instanceBuffer.id());
+    attribute(0, 4, offsetof(PlanetInstance, center));
+    attribute(1, 4, offsetof(PlanetInstance, color));
+    attribute(2, 2, offsetof(PlanetInstance, rampRow));
 }
 
 void RendererState::compose(GLuint target, int width, int height) {

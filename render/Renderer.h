@@ -19,8 +19,8 @@ class RendererState;
 
 // Draws a planet scene with OpenGL 3.3 core (or later) into whatever context is current:
 // exact spheres, one omnidirectional light, gradient or colour diffuse, surface emission,
-// 4x multisampling, transparent where no planet is. Every call needs the context the
-// renderer was made in to be current, and so does destroying it.
+// edges smoothed by their exact pixel coverage, transparent where no planet is. Every call
+// needs the context the renderer was made in to be current, and so does destroying it.
 class Renderer {
 public:
     // None, with the reason in `error`, when the current context cannot do the work.

@@ -1,6 +1,7 @@
 // Frames per second and peak memory of the headless renderer at 1920 x 1080, for growing
 // numbers of planets, plus hit-test times. Prints figures; never fails on time.
-//   bench_render [--quick]
+//   bench_render [--quick] [PLANETS plain|styled]
+// With a planet count, measures only that case (to compare changes quickly).
 #include "core/scene/SceneView.h"
 #include "imageio/SurfaceLibrary.h"
 #include "render/HeadlessContext.h"
@@ -13,6 +14,7 @@
 
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <memory>
 #include <random>
@@ -217,6 +219,10 @@ bool runOne(const Layout& layout, bool quick, bool describe = false) {
 
 int main(int argc, char** argv) {
     const bool quick = argc > 1 && std::string(argv[1]) == "--quick";
+    if (const int rest = quick ? 2 : 1; argc == rest + 2) {
+        const bool dressed = std::string(argv[rest + 1]) == "styled";
+        return runOne(Layout{std::atoi(argv[rest]), 24.0, dressed}, quick, true) ? 0 : 2;
+    }
     bool first = true;
     for (const bool dressed : {false, true}) {
         for (const int planets : {1, 100, 1000, 10000, 100000}) {

@@ -17,6 +17,7 @@ TEST(CommandLine, HelpAndVersion) {
 
 TEST(CommandLine, BadUsageIsOneLineAndStatusOne) {
     const std::vector<std::vector<std::string>> mistakes = {
+        {}, // this build has no window to open without a verb
         {"--frobnicate"},
         {"info"},
         {"convert", "a.json"},
@@ -27,18 +28,11 @@ TEST(CommandLine, BadUsageIsOneLineAndStatusOne) {
     };
     for (const auto& arguments : mistakes) {
         const Outcome run = runOrrery(arguments);
-        EXPECT_EQ(run.status, 1) << arguments.front() << " " << run.err;
+        EXPECT_EQ(run.status, 1) << run.err;
         EXPECT_EQ(run.errLines(), 1) << run.err;
         EXPECT_EQ(run.err.rfind("orrery: ", 0), 0u) << run.err;
     }
-}
-
-TEST(CommandLine, WithoutAVerbTheWindowIsAskedFor) {
-    // This build has no window: it says so, once, and points at --help.
-    const Outcome run = runOrrery({});
-    EXPECT_EQ(run.status, 1);
-    EXPECT_EQ(run.errLines(), 1);
-    EXPECT_NE(run.err.find("--help"), std::string::npos);
+    EXPECT_NE(runOrrery({}).err.find("--help"), std::string::npos);
 }
 
 } // namespace

@@ -67,7 +67,6 @@ TEST(LosslessFormats, PngKeepsEveryPixelAndItsTransparency) {
     // Straight alpha is kept as it is: a premultiplied detour would change the colours
     // of the soft edge.
     EXPECT_EQ(decoded->pixels, picture.pixels);
-    EXPECT_EQ(pixelAt(*decoded, 0, 0)[3], 0);
 }
 
 // The value of the TIFF ExtraSamples tag (338) of the first directory, 0 when absent.
@@ -160,39 +159,29 @@ TEST(Gif, SidesBeyondTheFormatAreRefused) {
     EXPECT_TRUE(encodeImage(Image(65535, 1), ExportFormat::gif, 0.85f).ok());
 }
 
-TEST(Jpeg, LowerQualityGivesSmallerFiles) {
+TEST(LossyFormats, LowerQualityGivesSmallerFiles) {
     const Image picture = samplePicture(200, 150);
-    const EncodedImage low = encodeImage(picture, ExportFormat::jpeg, 0.10f);
-    const EncodedImage high = encodeImage(picture, ExportFormat::jpeg, 0.90f);
-    ASSERT_TRUE(low.ok());
-    ASSERT_TRUE(high.ok());
-    EXPECT_LT(low.bytes.size(), high.bytes.size());
+    const std::pair<ExportFormat, float> lowest[] = {{ExportFormat::jpeg, 0.10f},
+                                                     {ExportFormat::jpeg2000, 0.20f}};
+    for (const auto& [format, low] : lowest) {
+        const EncodedImage small = encodeImage(picture, format, low);
+        const EncodedImage large = encodeImage(picture, format, 0.90f);
+        ASSERT_TRUE(small.ok() && large.ok()) << formatInfo(format).fileType;
+        EXPECT_LT(small.bytes.size(), large.bytes.size()) << formatInfo(format).fileType;
+    }
 }
 
-TEST(Jpeg2000, LowerCompressionFactorGivesSmallerFiles) {
-    const Image picture = samplePicture(200, 150);
-    const EncodedImage low = encodeImage(picture, ExportFormat::jpeg2000, 0.20f);
-    const EncodedImage high = encodeImage(picture, ExportFormat::jpeg2000, 0.90f);
-    ASSERT_TRUE(low.ok());
-    ASSERT_TRUE(high.ok());
-    EXPECT_LT(low.bytes.size(), high.bytes.size());
-}
-
-TEST(Jpeg2000, FullQualityIsLossless) {
+TEST(Jpeg2000, FullQualityIsLossless_LossyKeepsTheAlphaChannel) {
     const Image picture = samplePicture(64, 48);
-    const std::optional<Image> decoded = roundTrip(picture, ExportFormat::jpeg2000, 1.0f);
-    ASSERT_TRUE(decoded);
-    EXPECT_EQ(decoded->pixels, picture.pixels);
-}
-
-TEST(Jpeg2000, LossyFileKeepsItsAlphaChannel) {
-    const Image picture = samplePicture(64, 48);
-    const std::optional<Image> decoded = roundTrip(picture, ExportFormat::jpeg2000, 0.85f);
-    ASSERT_TRUE(decoded);
+    const std::optional<Image> lossless = roundTrip(picture, ExportFormat::jpeg2000, 1.0f);
+    ASSERT_TRUE(lossless);
+    EXPECT_EQ(lossless->pixels, picture.pixels);
+    const std::optional<Image> lossy = roundTrip(picture, ExportFormat::jpeg2000, 0.85f);
+    ASSERT_TRUE(lossy);
     // Space stays (nearly) transparent and the planet's middle (nearly) opaque: the fourth
     // channel is read back as alpha, not dropped or taken for a colour.
-    EXPECT_LE(pixelAt(*decoded, 0, 0)[3], 8);
-    EXPECT_GE(pixelAt(*decoded, 32, 24)[3], 247);
+    EXPECT_LE(pixelAt(*lossy, 0, 0)[3], 8);
+    EXPECT_GE(pixelAt(*lossy, 32, 24)[3], 247);
 }
 
 TEST(ExportWriter, FormatNumbersOneToSix) {
@@ -205,10 +194,8 @@ TEST(ExportWriter, FormatNumbersOneToSix) {
     // Number 5 is PNG, whatever the file is called.
     ASSERT_EQ(exportImages1(picture, path, 5, 0.85f), "");
     const std::vector<std::uint8_t> bytes = orrery::testing::fileBytes(path);
-    ASSERT_GE(bytes.size(), 4u);
-    EXPECT_EQ(bytes[1], 'P');
-    EXPECT_EQ(bytes[2], 'N');
-    EXPECT_EQ(bytes[3], 'G');
+    EXPECT_EQ(std::string(bytes.begin(), bytes.begin() + std::min<long>(4, std::ssize(bytes))),
+              "\x89PNG");
 }
 
 } // namespace

@@ -16,7 +16,7 @@ void writeBytes(const std::string& path, const std::vector<std::uint8_t>& bytes)
                static_cast<std::streamsize>(bytes.size()));
 }
 
-TEST(ReadImage, MissingFolderOrGarbageGivesNothingWithAReason) {
+TEST(ReadImage, MissingFolderGarbageOrCutGivesNothingWithAReason) {
     QTemporaryDir folder;
     const std::string garbage = folder.filePath("garbage.png").toStdString();
     writeBytes(garbage, {'n', 'o', 't', ' ', 'a', ' ', 'p', 'n', 'g'});
@@ -26,10 +26,7 @@ TEST(ReadImage, MissingFolderOrGarbageGivesNothingWithAReason) {
         EXPECT_FALSE(readImageFile(path, error)) << path;
         EXPECT_NE(error, "") << path;
     }
-}
 
-TEST(ReadImage, DamagedJpeg2000IsRefused) {
-    QTemporaryDir folder;
     const EncodedImage encoded =
         encodeImage(orrery::testing::samplePicture(64, 64), ExportFormat::jpeg2000, 0.85f);
     ASSERT_TRUE(encoded.ok());

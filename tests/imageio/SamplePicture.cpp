@@ -25,12 +25,10 @@ Image samplePicture(int width, int height) {
             const double light = std::clamp(0.3 + 0.7 * (1.0 - (dx + dy) / (2 * radius)), 0.0, 1.0);
             const int grain = static_cast<int>((noise >> 16) % 40) - 20;
             std::uint8_t* p = image.pixel(x, y);
-            p[0] = static_cast<std::uint8_t>(
-                std::clamp(static_cast<int>(200 * light) + grain, 0, 255));
-            p[1] = static_cast<std::uint8_t>(
-                std::clamp(static_cast<int>(120 * light) + grain, 0, 255));
-            p[2] =
-                static_cast<std::uint8_t>(std::clamp(static_cast<int>(60 * light) + grain, 0, 255));
+            const int base[] = {200, 120, 60};
+            for (int c = 0; c < 3; ++c)
+                p[c] = static_cast<std::uint8_t>(
+                    std::clamp(static_cast<int>(base[c] * light) + grain, 0, 255));
             p[3] = static_cast<std::uint8_t>(std::lround(coverage * 255));
         }
     }

@@ -31,37 +31,28 @@ private:
     QTemporaryDir folder_;
 };
 
-TEST(SurfaceLibrary, LoadsSurfacesAndThumbnailsByNumber) {
+TEST(SurfaceLibrary, LoadsSurfacesAndThumbnailsByNumber_MissingOrDamagedGiveNothing) {
     SurfaceFolder folder;
-    ASSERT_EQ(writeImageFile(Image(64, 32), (folder.root() / "Surface002.png").string(),
-                             ExportFormat::png, 1.0f),
-              "");
-    ASSERT_EQ(writeImageFile(Image(16, 8), (folder.root() / "thumbs" / "Surface002.png").string(),
-                             ExportFormat::png, 1.0f),
-              "");
+    for (const auto& [file, width] : {std::pair{fs::path("Surface002.png"), 64},
+                                      std::pair{fs::path("thumbs") / "Surface002.png", 16}})
+        ASSERT_EQ(writeImageFile(Image(width, 8), (folder.root() / file).string(),
+                                 ExportFormat::png, 1.0f),
+                  "");
+    std::ofstream(folder.root() / "Surface004.png") << "not a picture";
     SurfaceLibrary library;
     const Image* surface = library.surface(2);
     ASSERT_NE(surface, nullptr);
     EXPECT_EQ(surface->width, 64);
-    const Image* thumbnail = library.thumbnail(2);
-    ASSERT_NE(thumbnail, nullptr);
-    EXPECT_EQ(thumbnail->width, 16);
+    ASSERT_NE(library.thumbnail(2), nullptr);
+    EXPECT_EQ(library.thumbnail(2)->width, 16);
     // Decoded once and kept, whether asked for by number or by name.
     EXPECT_EQ(library.surface(2), surface);
     EXPECT_EQ(library.surfaceNamed("Surface002"), surface);
     for (const char* name : {"Surface2", "Surface0002", "surface002", "Surface002.png"})
         EXPECT_EQ(library.surfaceNamed(name), nullptr) << name;
-}
-
-TEST(SurfaceLibrary, MissingOrDamagedSurfaceGivesNothing) {
-    SurfaceFolder folder;
-    std::ofstream(folder.root() / "Surface004.png") << "not a picture";
-    SurfaceLibrary library;
-    EXPECT_EQ(library.surface(3), nullptr);
-    EXPECT_EQ(library.surface(4), nullptr);
+    for (const int missing : {3, 4, 0, -1})
+        EXPECT_EQ(library.surface(missing), nullptr) << missing;
     EXPECT_EQ(library.thumbnail(4), nullptr);
-    EXPECT_EQ(library.surface(0), nullptr);
-    EXPECT_EQ(library.surface(-1), nullptr);
 }
 
 } // namespace

@@ -117,6 +117,42 @@ TEST(PlanetInstances, HiddenGroupsHideTheirChildren_PositionsAddUp) {
     EXPECT_TRUE(instances.empty());
 }
 
+// Planets from a pattern: 't' textured (a ramp, a surface or both), 'p' plain.
+std::vector<PlanetInstance> patterned(const std::string& pattern) {
+    std::vector<PlanetInstance> instances;
+    for (std::size_t i = 0; i < pattern.size(); ++i) {
+        PlanetInstance instance{};
+        const bool textured = pattern[i] == 't';
+        instance.rampRow = textured && i % 3 != 1 ? 3.0f : -1.0f;
+        instance.surfaceLayer = textured && i % 3 != 0 ? 0.0f : -1.0f;
+        instances.push_back(instance);
+    }
+    return instances;
+}
+
+std::string drawsOf(const std::string& pattern) {
+    std::vector<PlanetDraw> draws{{7, 7, true}}; // replaced, not appended to
+    groupPlanetDraws(patterned(pattern), draws);
+    std::string text;
+    for (const PlanetDraw& draw : draws)
+        text += (draw.textured ? "t" : "p") + std::to_string(draw.first) + "+" +
+                std::to_string(draw.count) + " ";
+    return text;
+}
+
+TEST(PlanetDraws, KeepTheOrder_ShortPlainStretchesJoinTheTexturedDraws) {
+    const std::string plains(kShortestPlainDraw, 'p');
+    const std::string fewer(kShortestPlainDraw - 1, 'p');
+    const std::string n = std::to_string(kShortestPlainDraw);
+    EXPECT_EQ(drawsOf(""), "");
+    EXPECT_EQ(drawsOf("ppp"), "p0+3 "); // a scene of a few plain planets stays plain
+    EXPECT_EQ(drawsOf("tttt"), "t0+4 ");
+    EXPECT_EQ(drawsOf("tt" + plains + "t"),
+              "t0+2 p2+" + n + " t" + std::to_string(2 + kShortestPlainDraw) + "+1 ");
+    EXPECT_EQ(drawsOf("tt" + fewer + "t"), "t0+" + std::to_string(kShortestPlainDraw + 2) + " ");
+    EXPECT_EQ(drawsOf(fewer + "t" + plains), "t0+" + n + " p" + n + "+" + n + " ");
+}
+
 TEST(SceneLights, FirstVisibleLightWithItsColour) {
     SceneView view;
     view.updateLight("1", "2", "3");

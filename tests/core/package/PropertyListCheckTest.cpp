@@ -23,74 +23,53 @@ bool parses(const std::string& bytes, std::string& error) {
     return parsePropertyList(bytes, kLimits, error) != nullptr;
 }
 
-// A chain of `depth` arrays, each holding the next; the innermost is empty.
-std::string nestedArrays(std::size_t depth) {
+// An empty array wrapped in `levels` arrays, each holding `copies` references to the next.
+std::string wrappedArrays(std::size_t levels, std::size_t copies = 1) {
     BinaryPlistWriter writer;
     BinaryPlistWriter::Ref inner = writer.array({});
-    for (std::size_t i = 1; i < depth; ++i) {
-        const BinaryPlistWriter::Ref items[] = {inner};
-        inner = writer.array(items);
-    }
+    for (std::size_t i = 0; i < levels; ++i)
+        inner = writer.array(std::vector<BinaryPlistWriter::Ref>(copies, inner));
     return writer.finish(inner);
 }
 
 TEST(BinaryPlist, OurWriterEncodesWhatLibplistReadsBack) {
+    // Encodings the package files need beyond small values: long lists (the count needs
+    // an integer of its own past 15 items), wide references, long data and non-ASCII text.
     BinaryPlistWriter writer;
     std::vector<BinaryPlistWriter::Ref> items;
-    for (int i = 0; i < 20; ++i) // past 15 items the count needs an integer of its own
+    for (int i = 0; i < 20; ++i)
         items.push_back(writer.text("item " + std::to_string(i % 4)));
     const std::pair<BinaryPlistWriter::Ref, BinaryPlistWriter::Ref> fields[] = {
-        {writer.text("ascii"), writer.text("plain")},
-        {writer.text("unicode"), writer.text("Ærø ☉ 🪐")},
-        {writer.text("negative"), writer.integer(-5)},
-        {writer.text("large"), writer.integer(100000)},
         {writer.text("uid"), writer.uid(70000)},
         {writer.text("data"), writer.data(std::string(300, 'x'))},
         {writer.text("items"), writer.array(items)},
+        {writer.text("unicode"), writer.text("Ærø ☉ 🪐")},
     };
     std::string error;
     const PlistPtr root =
         parsePropertyList(writer.finish(writer.dictionary(fields)), kLimits, error);
     ASSERT_TRUE(root) << error;
-    EXPECT_EQ(stringValue(plist_dict_get_item(root.get(), "unicode")), "Ærø ☉ 🪐");
     std::uint64_t number = 0;
-    plist_get_uint_val(plist_dict_get_item(root.get(), "negative"), &number);
-    EXPECT_EQ(static_cast<std::int64_t>(number), -5);
-    plist_get_uint_val(plist_dict_get_item(root.get(), "large"), &number);
-    EXPECT_EQ(number, 100000u);
     plist_get_uid_val(plist_dict_get_item(root.get(), "uid"), &number);
     EXPECT_EQ(number, 70000u);
-    std::uint64_t length = 0;
-    plist_get_data_ptr(plist_dict_get_item(root.get(), "data"), &length);
-    EXPECT_EQ(length, 300u);
+    plist_get_data_ptr(plist_dict_get_item(root.get(), "data"), &number);
+    EXPECT_EQ(number, 300u);
     const auto read = arrayItems(plist_dict_get_item(root.get(), "items"));
     ASSERT_EQ(read.size(), 20u);
     EXPECT_EQ(stringValue(read[19]), "item 3");
+    EXPECT_EQ(stringValue(plist_dict_get_item(root.get(), "unicode")), "Ærø ☉ 🪐");
 }
 
-TEST(BinaryPlist, NestingIsRefusedBeyondTheLimitOnly) {
+TEST(BinaryPlist, NestingAndSharedContainersAreRefusedBeyondTheLimitsOnly) {
     std::string error;
-    EXPECT_TRUE(parses(nestedArrays(kMaxNestingDepth), error)) << error;
-    EXPECT_FALSE(parses(nestedArrays(kMaxNestingDepth + 1), error));
+    EXPECT_TRUE(parses(wrappedArrays(kMaxNestingDepth - 1), error)) << error;
+    EXPECT_FALSE(parses(wrappedArrays(kMaxNestingDepth), error));
     EXPECT_NE(error.find("nested deeper than 512"), std::string::npos) << error;
     // Deep enough to overflow libplist's stack had it been handed over.
-    EXPECT_FALSE(parses(nestedArrays(200000), error));
-}
-
-TEST(BinaryPlist, SharedContainersAreCountedAtEveryUse) {
+    EXPECT_FALSE(parses(wrappedArrays(200000), error));
     // Each level refers twice to the one below: 2^levels nodes from a few hundred bytes.
-    const auto doubling = [](int levels) {
-        BinaryPlistWriter writer;
-        BinaryPlistWriter::Ref inner = writer.array({});
-        for (int i = 0; i < levels; ++i) {
-            const BinaryPlistWriter::Ref pair[] = {inner, inner};
-            inner = writer.array(pair);
-        }
-        return writer.finish(inner);
-    };
-    std::string error;
-    EXPECT_TRUE(parses(doubling(10), error)) << error;
-    EXPECT_FALSE(parses(doubling(60), error));
+    EXPECT_TRUE(parses(wrappedArrays(10, 2), error)) << error;
+    EXPECT_FALSE(parses(wrappedArrays(60, 2), error));
     EXPECT_NE(error.find("expands to more than"), std::string::npos) << error;
 }
 
@@ -129,40 +108,36 @@ TEST(BinaryPlist, DamagedTrailersAreRefused) {
     EXPECT_NE(error.find("damaged"), std::string::npos) << error;
 }
 
-TEST(BinaryPlist, EveryTruncationAndEveryCorruptedByteEndsInAnErrorOrAList) {
+TEST(BinaryPlist, TruncatedCorruptedOrRandomBytesEndInAnErrorOrAList) {
     std::string bytes;
     std::string error;
     ASSERT_TRUE(encodePlanetArchive(test::sampleDocument(3).planets, bytes, error));
     std::vector<PlanetRecord> planets;
-    for (std::size_t length = 0; length < bytes.size(); ++length) {
-        EXPECT_FALSE(decodePlanetArchive(bytes.substr(0, length), planets, error));
-        EXPECT_FALSE(error.empty());
-    }
+    // Decodes; a refusal must say why.
+    const auto decodes = [&](const std::string& damaged) {
+        error.clear();
+        const bool decoded = decodePlanetArchive(damaged, planets, error);
+        EXPECT_TRUE(decoded || !error.empty());
+        return decoded;
+    };
+    for (std::size_t length = 0; length < bytes.size(); ++length)
+        EXPECT_FALSE(decodes(bytes.substr(0, length))) << length;
     // Under the sanitizers this finds any read out of bounds a damaged byte can cause.
     for (std::size_t at = 0; at < bytes.size(); ++at) {
         for (unsigned char value : {0x00, 0x0F, 0x5F, 0x80, 0xAF, 0xDF, 0xFF}) {
             std::string damaged = bytes;
             damaged[at] = static_cast<char>(value);
-            error.clear();
-            if (!decodePlanetArchive(damaged, planets, error)) {
-                EXPECT_FALSE(error.empty());
-            }
+            decodes(damaged);
         }
     }
-}
-
-TEST(BinaryPlist, RandomBytesAreRefused) {
     std::mt19937 random(7);
-    std::vector<PlanetRecord> planets;
     for (int round = 0; round < 200; ++round) {
-        std::string bytes(1 + random() % 512, '\0');
-        for (char& c : bytes)
+        std::string noise(1 + random() % 512, '\0');
+        for (char& c : noise)
             c = static_cast<char>(random());
         if (round % 2 == 0)
-            bytes.replace(0, std::min<std::size_t>(8, bytes.size()), "bplist00");
-        std::string error;
-        EXPECT_FALSE(decodePlanetArchive(bytes, planets, error));
-        EXPECT_FALSE(error.empty());
+            noise.replace(0, std::min<std::size_t>(8, noise.size()), "bplist00");
+        EXPECT_FALSE(decodes(noise)) << round;
     }
 }
 

@@ -23,12 +23,13 @@ CameraProjection cameraFor(const Scene& scene) {
     return CameraProjection(eye, 45.0, 800, 600, depthRangeCovering(scene.rootNode(), eye));
 }
 
-TEST(HitTest, ReturnsEveryHitNearestFirst_WithLocalCoordinates) {
+TEST(HitTest, ReturnsEveryHitNearestFirst_OnTheSphereUnderTheViewPoint) {
     Scene scene;
     addSphere(scene.rootNode(), "far", {0, 0, -100}, 30);
     addSphere(scene.rootNode(), "near", {0, 0, 100}, 10);
-    addSphere(scene.rootNode(), "aside", {200, 0, 0}, 10);
-    const auto hits = hitTest(scene.rootNode(), cameraFor(scene), 400, 300);
+    addSphere(scene.rootNode(), "aside", {40, -30, -20}, 25);
+    const CameraProjection camera = cameraFor(scene);
+    const auto hits = hitTest(scene.rootNode(), camera, 400, 300);
     ASSERT_EQ(hits.size(), 2u);
     EXPECT_EQ(hits[0].node->name(), "near");
     EXPECT_EQ(hits[1].node->name(), "far");
@@ -36,17 +37,13 @@ TEST(HitTest, ReturnsEveryHitNearestFirst_WithLocalCoordinates) {
     EXPECT_NEAR(hits[0].worldCoordinates.z, 110.0, 1e-9);
     EXPECT_NEAR(hits[0].distance, 390.0, 1e-9);
     EXPECT_NEAR(hits[1].localCoordinates.z, 30.0, 1e-9);
-}
 
-TEST(HitTest, HitPointLiesOnTheSphereUnderTheViewPoint) {
-    Scene scene;
-    addSphere(scene.rootNode(), "p", {40, -30, -20}, 25);
-    const CameraProjection camera = cameraFor(scene);
+    // Off the centre of a sphere, the hit point is on its surface and under the view point.
     const Vec3 centre = camera.project({40, -30, -20});
-    const auto hits = hitTest(scene.rootNode(), camera, centre.x + 7, centre.y + 5);
-    ASSERT_EQ(hits.size(), 1u);
-    EXPECT_NEAR(length(hits[0].localCoordinates), 25.0, 1e-9);
-    const Vec3 seen = camera.project(hits[0].worldCoordinates);
+    const auto aside = hitTest(scene.rootNode(), camera, centre.x + 7, centre.y + 5);
+    ASSERT_EQ(aside.size(), 1u);
+    EXPECT_NEAR(length(aside[0].localCoordinates), 25.0, 1e-9);
+    const Vec3 seen = camera.project(aside[0].worldCoordinates);
     EXPECT_NEAR(seen.x, centre.x + 7, 1e-9);
     EXPECT_NEAR(seen.y, centre.y + 5, 1e-9);
 }

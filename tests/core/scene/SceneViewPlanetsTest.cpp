@@ -23,11 +23,6 @@ const SceneNode& onlyNode(const SceneView& view, const std::string& name) {
     return *nodes.at(0);
 }
 
-TEST(PlanetNodes, Names) {
-    EXPECT_EQ(planetNodeName("1424700000"), "planet1424700000");
-    EXPECT_EQ(planetNodeName(""), "planet");
-}
-
 TEST(PlanetNodes, MaterialRules) {
     // No surface: no material at all, whatever the style.
     EXPECT_FALSE(planetMaterial(kRed, 7, 0, 24.0f).has_value());
@@ -41,55 +36,39 @@ TEST(PlanetNodes, MaterialRules) {
     EXPECT_EQ(planetMaterial(kRed, 0, 48, 24.0f)->emission, "Surface048");
     EXPECT_EQ(planetMaterial(kRed, 0, 1000, 24.0f)->emission, "Surface1000");
 
-    const auto styled = planetMaterial(kRed, 5, 12, 10.0f);
+    // A styled planet's gradient side comes from the single-precision radius, widened
+    // before multiplying.
+    const auto styled = planetMaterial(kRed, 5, 12, 0.1f);
     ASSERT_TRUE(styled.has_value());
     const auto& gradient = std::get<GradientTexture>(styled->diffuse);
     EXPECT_EQ(gradient.style, 5);
-    EXPECT_EQ(gradient.width, 62.83185307179586);
+    EXPECT_EQ(gradient.width, static_cast<double>(0.1f) * 6.283185307179586);
     EXPECT_EQ(gradient.height, gradient.width);
     EXPECT_EQ(gradient.angle, 270.0);
     EXPECT_EQ(styled->emission, "Surface012");
-
-    // The side comes from the single-precision radius, widened before multiplying.
-    const auto odd = planetMaterial(kRed, 1, 1, 0.1f);
-    EXPECT_EQ(std::get<GradientTexture>(odd->diffuse).width,
-              static_cast<double>(0.1f) * 6.283185307179586);
 }
 
-TEST(SceneViewPlanets, CreatePlanetMakesAPlainWhiteSphereFromTexts) {
+TEST(SceneViewPlanets, CreatePlanetReadsItsTexts_CreatePlanet2AppliesTheMaterialRules) {
     SceneView view;
-    view.createPlanet("1424700000", "10", "-5", "0", "24");
-    const SceneNode& node = onlyNode(view, "planet1424700000");
-    EXPECT_EQ(node.position(), (Vec3{10, -5, 0}));
-    ASSERT_TRUE(node.sphere().has_value());
-    EXPECT_EQ(node.sphere()->radius, 24.0);
-    EXPECT_FALSE(node.sphere()->material.has_value());
-    EXPECT_FALSE(node.isHidden());
-    EXPECT_EQ(node.parent(), &view.scene().rootNode());
-    // Appended after the camera and the light.
-    EXPECT_EQ(childNames(view).back(), "planet1424700000");
-}
-
-TEST(SceneViewPlanets, TextsAreReadAsLeadingSinglePrecisionNumbers) {
-    SceneView view;
-    view.createPlanet("1", "  12abc", "abc", "0.1", "-");
-    const SceneNode& node = onlyNode(view, "planet1");
-    EXPECT_EQ(node.position().x, 12.0);
-    EXPECT_EQ(node.position().y, 0.0);
-    EXPECT_EQ(node.position().z, static_cast<double>(0.1f));
-    EXPECT_EQ(node.sphere()->radius, 0.0);
-}
-
-TEST(SceneViewPlanets, CreatePlanet2AppliesTheMaterialRules) {
-    SceneView view;
-    view.createPlanet2("1", kRed, 7, 0, "0", "0", "0", "24");
-    view.createPlanet2("2", kRed, 0, 3, "0", "0", "0", "24");
-    view.createPlanet2("3", kRed, 5, 12, "1", "2", "3", "10");
-    EXPECT_FALSE(onlyNode(view, "planet1").sphere()->material.has_value());
-    EXPECT_EQ(onlyNode(view, "planet2").sphere()->material, planetMaterial(kRed, 0, 3, 24.0f));
-    const SceneNode& styled = onlyNode(view, "planet3");
+    view.createPlanet("1", "  12abc", "abc", "0.1", "24");
+    view.createPlanet("2", "0", "0", "0", "-");
+    view.createPlanet2("3", kRed, 7, 0, "0", "0", "0", "24");
+    view.createPlanet2("4", kRed, 5, 12, "1", "2", "3", "10");
+    const SceneNode& plain = onlyNode(view, "planet1");
+    // Texts are read as leading single-precision numbers.
+    EXPECT_EQ(plain.position(), (Vec3{12, 0, static_cast<double>(0.1f)}));
+    ASSERT_TRUE(plain.sphere().has_value());
+    EXPECT_EQ(plain.sphere()->radius, 24.0);
+    EXPECT_FALSE(plain.sphere()->material.has_value());
+    EXPECT_FALSE(plain.isHidden());
+    EXPECT_EQ(onlyNode(view, "planet2").sphere()->radius, 0.0);
+    EXPECT_FALSE(onlyNode(view, "planet3").sphere()->material.has_value());
+    const SceneNode& styled = onlyNode(view, "planet4");
     EXPECT_EQ(styled.sphere()->material, planetMaterial(kRed, 5, 12, 10.0f));
     EXPECT_EQ(styled.position(), (Vec3{1, 2, 3}));
+    // Appended after the camera and the light, in order.
+    EXPECT_EQ(childNames(view),
+              (std::vector<std::string>{"", "light", "planet1", "planet2", "planet3", "planet4"}));
 }
 
 TEST(SceneViewPlanets, SameNameNodesAreAlwaysTreatedTogether) {
@@ -97,6 +76,8 @@ TEST(SceneViewPlanets, SameNameNodesAreAlwaysTreatedTogether) {
     view.createPlanet("7", "0", "0", "0", "24");
     view.createPlanet("7", "5", "0", "0", "24");
     view.createPlanet("77", "0", "0", "0", "24");
+    view.updateStatus("77", 0);
+    view.updateStatus("77", 2); // only state 0 hides
     view.updateStatus("7", 0);
     for (const auto& node : view.scene().rootNode().childNodesNamed("planet7"))
         EXPECT_TRUE(node->isHidden());
@@ -128,18 +109,6 @@ TEST(SceneViewPlanets, UnknownTsecsChangesNothing_AndCameraAndLightNeverMatch) {
     view.deletePlanet("light"); // "planetlight" is not "light"
     EXPECT_EQ(view.scene().revision(), before);
     EXPECT_EQ(view.scene().rootNode().childCount(), 3u);
-}
-
-TEST(SceneViewPlanets, OnlyStateZeroHides) {
-    SceneView view;
-    view.createPlanet("1", "0", "0", "0", "24");
-    view.updateStatus("1", 0);
-    EXPECT_TRUE(onlyNode(view, "planet1").isHidden());
-    view.updateStatus("1", 2);
-    EXPECT_FALSE(onlyNode(view, "planet1").isHidden());
-    view.updateStatus("1", 0);
-    view.updateStatus("1", -1);
-    EXPECT_FALSE(onlyNode(view, "planet1").isHidden());
 }
 
 TEST(SceneViewPlanets, EveryChangeAsksForARedraw) {
