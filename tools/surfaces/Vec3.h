@@ -1,34 +1,16 @@
 #pragma once
 
+#include "core/scene/Vec3.h"
+
 #include <cmath>
 #include <numbers>
 
+// The generator works on the scene's vector type; these are the few operations only the
+// sphere sampling needs.
 namespace orrery::surfaces {
 
-struct Vec3 {
-    double x = 0.0;
-    double y = 0.0;
-    double z = 0.0;
-};
-
-constexpr Vec3 operator+(const Vec3& a, const Vec3& b) {
-    return {a.x + b.x, a.y + b.y, a.z + b.z};
-}
-constexpr Vec3 operator-(const Vec3& a, const Vec3& b) {
-    return {a.x - b.x, a.y - b.y, a.z - b.z};
-}
-constexpr Vec3 operator*(const Vec3& a, double s) {
-    return {a.x * s, a.y * s, a.z * s};
-}
-
-constexpr double dot(const Vec3& a, const Vec3& b) {
-    return a.x * b.x + a.y * b.y + a.z * b.z;
-}
-constexpr Vec3 cross(const Vec3& a, const Vec3& b) {
+inline Vec3 cross(const Vec3& a, const Vec3& b) {
     return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
-}
-inline double length(const Vec3& a) {
-    return std::sqrt(dot(a, a));
 }
 inline Vec3 normalize(const Vec3& a) {
     const double l = length(a);
