@@ -12,6 +12,8 @@ QImage imageView(const Image& image);
 
 // Writes a PNG through a temporary file that replaces the target only once it is
 // complete. Returns an empty string on success, else what went wrong.
-QString writePng(const QImage& image, const QString& path);
+enum class PngCompression { Compressed, Stored };
+QString writePng(const QImage& image, const QString& path,
+                 PngCompression compression = PngCompression::Compressed);
 
 } // namespace orrery::surfaces
