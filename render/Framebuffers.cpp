@@ -52,52 +52,57 @@ bool pictureSizeSupported(int width, int height, std::string* error) {
     return false;
 }
 
-bool Canvas::ensureSize(int width, int height, std::string* error) {
-    if (framebuffer_ && width == width_ && height == height_)
+namespace {
+
+// Builds the framebuffer anew unless it already has the size: `attach` gives the freshly
+// bound framebuffer its attachments. A failure leaves no framebuffer and the reason.
+template <typename Attach>
+bool rebuildFramebuffer(GlObject& framebuffer, int& currentWidth, int& currentHeight, int width,
+                        int height, std::string* error, Attach attach) {
+    if (framebuffer && width == currentWidth && height == currentHeight)
         return true;
     if (!pictureSizeSupported(width, height, error))
         return false;
-    width_ = height_ = 0;
-    color_.create();
-    glBindTexture(GL_TEXTURE_2D, color_.id());
-    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, width, height, 0, GL_RGBA, GL_UNSIGNED_BYTE, nullptr);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
-    depth_.create();
-    glBindRenderbuffer(GL_RENDERBUFFER, depth_.id());
-    glRenderbufferStorage(GL_RENDERBUFFER, GL_DEPTH_COMPONENT24, width, height);
-    framebuffer_.create();
-    glBindFramebuffer(GL_FRAMEBUFFER, framebuffer_.id());
-    glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, color_.id(), 0);
-    glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_DEPTH_ATTACHMENT, GL_RENDERBUFFER, depth_.id());
+    currentWidth = currentHeight = 0;
+    framebuffer.create();
+    glBindFramebuffer(GL_FRAMEBUFFER, framebuffer.id());
+    attach();
     if (!framebufferComplete(width, height, error)) {
-        framebuffer_.reset();
+        framebuffer.reset();
         return false;
     }
-    width_ = width;
-    height_ = height;
+    currentWidth = width;
+    currentHeight = height;
     return true;
 }
 
+} // namespace
+
+bool Canvas::ensureSize(int width, int height, std::string* error) {
+    return rebuildFramebuffer(framebuffer_, width_, height_, width, height, error, [&] {
+        color_.create();
+        glBindTexture(GL_TEXTURE_2D, color_.id());
+        glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, width, height, 0, GL_RGBA, GL_UNSIGNED_BYTE,
+                     nullptr);
+        glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
+        glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
+        depth_.create();
+        glBindRenderbuffer(GL_RENDERBUFFER, depth_.id());
+        glRenderbufferStorage(GL_RENDERBUFFER, GL_DEPTH_COMPONENT24, width, height);
+        glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, color_.id(), 0);
+        glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_DEPTH_ATTACHMENT, GL_RENDERBUFFER,
+                                  depth_.id());
+    });
+}
+
 bool PictureFramebuffer::ensureSize(int width, int height, std::string* error) {
-    if (framebuffer_ && width == width_ && height == height_)
-        return true;
-    if (!pictureSizeSupported(width, height, error))
-        return false;
-    width_ = height_ = 0;
-    color_.create();
-    glBindRenderbuffer(GL_RENDERBUFFER, color_.id());
-    glRenderbufferStorage(GL_RENDERBUFFER, GL_RGBA8, width, height);
-    framebuffer_.create();
-    glBindFramebuffer(GL_FRAMEBUFFER, framebuffer_.id());
-    glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, color_.id());
-    if (!framebufferComplete(width, height, error)) {
-        framebuffer_.reset();
-        return false;
-    }
-    width_ = width;
-    height_ = height;
-    return true;
+    return rebuildFramebuffer(framebuffer_, width_, height_, width, height, error, [&] {
+        color_.create();
+        glBindRenderbuffer(GL_RENDERBUFFER, color_.id());
+        glRenderbufferStorage(GL_RENDERBUFFER, GL_RGBA8, width, height);
+        glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER,
+                                  color_.id());
+    });
 }
 
 } // namespace orrery::render
