@@ -54,15 +54,4 @@ double silhouetteRadius(double r, double distance, int height) {
     return std::tan(std::asin(r / distance)) * focal * height / 2.0;
 }
 
-double srgbToLinear(double byte) {
-    const double c = byte / 255.0;
-    return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-}
-
-int linearToSrgbByte(double linear) {
-    const double c = std::clamp(linear, 0.0, 1.0);
-    const double s = c <= 0.0031308 ? c * 12.92 : 1.055 * std::pow(c, 1.0 / 2.4) - 0.055;
-    return static_cast<int>(std::lround(s * 255.0));
-}
-
 } // namespace orrery::testing

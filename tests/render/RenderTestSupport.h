@@ -47,7 +47,4 @@ Image solidImage(int width, int height, std::array<int, 4> rgba);
 // straight ahead, in a picture `height` pixels high (vertical field of view 45 degrees).
 double silhouetteRadius(double r, double distance, int height);
 
-double srgbToLinear(double byte);
-int linearToSrgbByte(double linear);
-
 } // namespace orrery::testing

@@ -58,14 +58,11 @@ TEST(Checkerboard, EmptySizesAndOddSquareWidths) {
 }
 
 TEST(BackgroundImage, EveryIndexHasItsPicture) {
-    EXPECT_EQ(pixelAt(backgroundImage(1, 4, 4), 3, 3), (Rgba{255, 255, 255, 255}));
-    EXPECT_EQ(pixelAt(backgroundImage(2, 4, 4), 3, 3), (Rgba{0, 0, 0, 255}));
-    EXPECT_EQ(pixelAt(backgroundImage(3, 4, 4), 3, 3), (Rgba{20, 30, 80, 255}));
-    EXPECT_EQ(pixelAt(backgroundImage(4, 4, 4), 3, 3), (Rgba{15, 10, 50, 255}));
-    EXPECT_EQ(pixelAt(backgroundImage(5, 4, 4), 3, 3), (Rgba{5, 5, 20, 255}));
-    EXPECT_EQ(pixelAt(backgroundImage(6, 4, 4), 3, 3), (Rgba{255, 255, 0, 255}));
-    EXPECT_EQ(pixelAt(backgroundImage(7, 4, 4), 3, 3), (Rgba{255, 128, 0, 255}));
-    EXPECT_EQ(pixelAt(backgroundImage(8, 4, 4), 3, 3), (Rgba{0, 0, 255, 255}));
+    const Rgba solid[] = {{255, 255, 255, 255}, {0, 0, 0, 255},  {20, 30, 80, 255},
+                          {15, 10, 50, 255},    {5, 5, 20, 255}, {255, 255, 0, 255},
+                          {255, 128, 0, 255},   {0, 0, 255, 255}};
+    for (int index = 1; index <= 8; ++index)
+        EXPECT_EQ(pixelAt(backgroundImage(index, 4, 4), 3, 3), solid[index - 1]) << index;
     // Unknown indices show the checkerboard, like 0.
     const Image transparent = backgroundImage(0, 45, 45);
     EXPECT_EQ(backgroundImage(9, 45, 45).pixels, transparent.pixels);
