@@ -1,25 +1,16 @@
 #include "cli/ExitStatus.h"
 #include "cli/Verbs.h"
+#include "customWin/WindowMain.h"
 
 #include <filesystem>
 #include <iostream>
 #include <new>
 
-namespace {
-
-// The window is not part of this build yet: say where the command line is.
-int openWindow(std::string_view program) {
-    std::cerr << program << ": this build has no window; see " << program << " --help\n";
-    return 1;
-}
-
-} // namespace
-
 int main(int argc, char** argv) {
     const std::vector<std::string> arguments(argv + 1, argv + argc);
     const std::string program = std::filesystem::path(argc > 0 ? argv[0] : "orrery").filename();
     if (!orrery::cli::isCommandLine(arguments))
-        return openWindow(program);
+        return orrery::window::runWindow(argc, argv);
     try {
         return orrery::cli::runCommandLine(arguments, {program, std::cout, std::cerr});
     } catch (const std::bad_alloc&) {

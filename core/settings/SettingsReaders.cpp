@@ -87,6 +87,7 @@ WindowPlacement mainWindowPlacement(bool windowsFileExists, const std::vector<st
         return placement;
     placement.main = frameAt(windows, 0);
     placement.gradation = frameAt(windows, 4);
+    placement.search = frameAt(windows, 8);
     if (alwaysCentre)
         placement.kind = WindowPlacement::Kind::Centre;
     else if (placement.main.width <= 0 || placement.main.height <= 0)

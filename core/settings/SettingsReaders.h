@@ -43,6 +43,7 @@ struct WindowPlacement {
     enum class Kind { Centre, CentreAndStore, Stored } kind = Kind::Centre;
     WindowFrame main;
     WindowFrame gradation;
+    WindowFrame search;
 };
 WindowPlacement mainWindowPlacement(bool windowsFileExists, const std::vector<std::string>& windows,
                                     bool alwaysCentre);

@@ -1,3 +1,4 @@
+#include "core/styles/AxisCross.h"
 #include "core/styles/StyleImages.h"
 #include "tests/core/styles/PixelAt.h"
 
@@ -86,6 +87,17 @@ TEST(CreateColorImage, FillsTheTruncatedSize) {
     ASSERT_EQ(image.width, 3);
     ASSERT_EQ(image.height, 2);
     EXPECT_EQ(pixelAt(image, 2, 1), (Rgba{0, 128, 255, 128}));
+}
+
+TEST(AxisCross, LabelsAndArrowsSitAtFixedOffsetsFromTheCentre) {
+    const AxisCross cross = axisCross(400, 300);
+    EXPECT_EQ(cross.labels[0].origin, (AxisPoint{365, 140}));
+    EXPECT_EQ(cross.labels[1].origin, (AxisPoint{195, 315}));
+    EXPECT_EQ(cross.labels[2].origin, (AxisPoint{195, 133}));
+    EXPECT_EQ(cross.labels[2].color, kPureBlue);
+    EXPECT_EQ(cross.xStrokes[0].to, (AxisPoint{360, 150}));
+    EXPECT_EQ(cross.xStrokes[2].to, (AxisPoint{345, 145}));
+    EXPECT_EQ(cross.yStrokes[1].to, (AxisPoint{205, 295}));
 }
 
 } // namespace

@@ -1,0 +1,151 @@
+#include "customWin/AppDelegate.h"
+
+#include "core/app/AppPaths.h"
+#include "core/app/ScreenFit.h"
+#include "core/model/TextNumber.h"
+#include "core/settings/SettingsReaders.h"
+#include "customWin/Strings.h"
+#include "customWin/gradationWindow.h"
+#include "customWin/headerView.h"
+#include "customWin/mainView.h"
+#include "customWin/mainWindow.h"
+#include "customWin/sceneView.h"
+#include "customWin/screenView.h"
+#include "customWin/searchWindow.h"
+
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QScreen>
+
+#include <filesystem>
+
+namespace orrery::window {
+namespace {
+
+ScreenRect toScreenRect(const QRect& rect) {
+    return {rect.left(), rect.top(), rect.width(), rect.height()};
+}
+
+QRect toQRect(const ScreenRect& rect) {
+    return {rect.left, rect.top, rect.width, rect.height};
+}
+
+// The available areas of the screens there are today, the primary one first.
+std::vector<ScreenRect> availableScreens() {
+    std::vector<ScreenRect> screens;
+    if (QScreen* primary = QGuiApplication::primaryScreen())
+        screens.push_back(toScreenRect(primary->availableGeometry()));
+    for (QScreen* screen : QGuiApplication::screens())
+        if (screen != QGuiApplication::primaryScreen())
+            screens.push_back(toScreenRect(screen->availableGeometry()));
+    return screens;
+}
+
+} // namespace
+
+AppDelegate::AppDelegate()
+    : appName_(QString::fromStdString(appNameFromExecutable())),
+      settings_(AppPaths::inFolder(userDataFolder() / appNameFromExecutable())),
+      mainWindow_(new mainWindow()) {
+    // Start-up step 1: empty lists, full screen on offer.
+    state_.canEnterFull = true;
+    state_.appName = appName_.toStdString();
+}
+
+AppDelegate::~AppDelegate() {
+    delete gradationWindow_;
+    delete searchWindow_;
+    delete mainWindow_;
+}
+
+sceneView& AppDelegate::sceneview() {
+    return mainWindow_->content().documentArea().scene();
+}
+
+screenView& AppDelegate::screenview() {
+    return mainWindow_->content().documentArea().backdrop();
+}
+
+void AppDelegate::applicationWillFinishLaunching() {
+    screenOptions();
+    mainWindow_->show();
+    makeNSControls();
+    state_.appVersion = ORRERY_VERSION;
+    registerWindowObservers();
+    buildTitleBar();
+    showDocumentSize();
+    refreshViews();
+    state_.currentBackground = 0;
+    state_.currentPage = 1;
+    menus_.sceneColorItems[0]->setChecked(true);
+    state_.lightColor = kWhite;
+}
+
+void AppDelegate::screenOptions() {
+    // The folder and the three databases exist before any window shows.
+    runSettingsStartup(settings_);
+    populateDB0();
+}
+
+void AppDelegate::populateDB0() {
+    const bool windowsFileExists = std::filesystem::exists(settings_.paths().filePath0);
+    const WindowPlacement placement = mainWindowPlacement(
+        windowsFileExists, settings_.windowArray, generalSwitch(settings_.checkboxArray, 1));
+    placeMainWindow(placement);
+}
+
+void AppDelegate::placeMainWindow(const WindowPlacement& placement) {
+    const std::vector<ScreenRect> screens = availableScreens();
+    const ScreenRect primary = screens.empty() ? ScreenRect{0, 0, 1920, 1080} : screens.front();
+    if (placement.kind == WindowPlacement::Kind::Stored) {
+        const WindowFrame& stored = placement.main;
+        const QSize size = QSize(stored.width, stored.height)
+                               .expandedTo(mainWindow_->minimumSize())
+                               .boundedTo(mainWindow_->maximumSize());
+        const ScreenRect frame = bringOntoScreens(
+            {stored.left, stored.top, size.width(), size.height()}, screens);
+        mainWindow_->setGeometry(toQRect(frame));
+        state_.gWidth = placement.gradation.width;
+        state_.gHeight = placement.gradation.height;
+        state_.gLeft = placement.gradation.left;
+        state_.gTop = placement.gradation.top;
+        state_.sWidth = placement.search.width;
+        state_.sHeight = placement.search.height;
+        state_.sLeft = placement.search.left;
+        state_.sTop = placement.search.top;
+        return;
+    }
+    const PixelSize window = windowSizeForDocument(firstDocumentSize(primary));
+    mainWindow_->setGeometry(toQRect(centredOn(primary, window)));
+    if (placement.kind == WindowPlacement::Kind::CentreAndStore)
+        saveWindowFrame();
+}
+
+void AppDelegate::makeNSControls() {
+    menus_ = buildMenuBar(mainWindow_->content().header().menuBar());
+    makeNSMenu(menus_, appName_);
+    connectMenuActions();
+    mainWindow_->content().header().setTexts(text("documentSizeLabel"), text("documentSizeTimes"));
+    QLineEdit& width = mainWindow_->content().header().widthField1();
+    QLineEdit& height = mainWindow_->content().header().heightField1();
+    width.setAccessibleName(text("accessibleWidthField"));
+    height.setAccessibleName(text("accessibleHeightField"));
+    sceneview().setAccessibleName(text("accessibleSceneView"));
+    screenview().setAccessibleName(text("accessibleBackdrop"));
+    mainWindow_->setWindowTitle(appName_);
+}
+
+void AppDelegate::saveWindowFrame() {
+    storeFrame(mainWindow_->frameGeometry(), '0');
+}
+
+// Table Windows holds each frame as Width, Height, Left and Top with the window's number.
+void AppDelegate::storeFrame(const QRect& frame, char windowNumber) {
+    const std::pair<int, const char*> values[] = {
+        {frame.width(), "Width"}, {frame.height(), "Height"}, {frame.left(), "Left"},
+        {frame.top(), "Top"}};
+    for (const auto& [value, field] : values)
+        settings_.saveData0(formatF(value), std::string(field) + windowNumber);
+}
+
+} // namespace orrery::window

@@ -1,0 +1,125 @@
+#pragma once
+
+#include "core/app/AppState.h"
+#include "core/settings/Settings.h"
+#include "core/settings/SettingsReaders.h"
+#include "customWin/MenuBar.h"
+
+#include <QObject>
+#include <QRect>
+#include <QString>
+
+class QLineEdit;
+
+namespace orrery::window {
+
+class ImageButton;
+class TitleLabel;
+class gradationWindow;
+class mainView;
+class mainWindow;
+class sceneView;
+class screenView;
+class searchWindow;
+
+// The application's controller: it owns the main window and the secondary windows, the
+// menus and the settings lists, and carries out what the user asks of them. Its body is
+// split by subsystem: start-up and shut-down here, the menus in AppDelegateMenus.cpp, the
+// window's chrome and frames in AppDelegateWindow.cpp, the secondary windows in
+// AppDelegateSecondary.cpp. Every rule that needs no widget lives in core/.
+class AppDelegate : public QObject {
+    Q_OBJECT
+public:
+    AppDelegate();
+    ~AppDelegate() override;
+
+    // Start-up, in its fixed order: settings folder and databases, the window's frame,
+    // the window shown, menus and controls, the title bar, the document size.
+    void applicationWillFinishLaunching();
+
+    const QString& readAppname() const { return appName_; }
+    AppState& state() { return state_; }
+    Settings& settings() { return settings_; }
+    mainWindow& window() { return *mainWindow_; }
+    sceneView& sceneview();
+    screenView& screenview();
+    const MenuItems& menus() const { return menus_; }
+
+    // Menu state around sheets and questions (see core/app/MenuStatus.h).
+    void saveMenuStatus();
+    void loadMenuStatus();
+
+    // The Scene menu.
+    void hideaxesScene();
+    void setSceneBackground(long index);
+    void sceneColorAllOff();
+
+    // The Help menu: a question first, then the page in the browser.
+    void userguideHelp();
+    void supportHelp();
+
+    // Title bar and window chrome.
+    void closeWindowClicked();
+    void minimizeWindowClicked();
+    void maximizeWindowClicked();
+    void fullWindowClicked();
+    void setTopFrame();
+    void saveWindowFrame();
+
+    void openGradationWindow();
+    void openSearchWindow();
+
+signals:
+    // A planet was chosen in the find window: its table row is to be selected.
+    void planetChosen(const QString& tsecs);
+
+private:
+    // Start-up steps.
+    void screenOptions();
+    void populateDB0();
+    void placeMainWindow(const WindowPlacement& placement);
+    void makeNSControls();
+    void registerWindowObservers();
+    void buildTitleBar();
+    void showDocumentSize();
+
+    // Menus.
+    void connectMenuActions();
+    void showAbout();
+
+    // Chrome and frames (AppDelegateWindow.cpp).
+    void mouseEntered();
+    void mouseExited();
+    void windowWillResize();
+    void windowDidEndLiveResize();
+    void windowDidReize();
+    void windowWillEnterFullscreen();
+    void windowDidEnterFullscreen();
+    void windowDidExitFullscreen();
+    void windowWillClose();
+    void sizeFieldReturn(QLineEdit& field);
+    void refreshViews();
+
+    void storeFrame(const QRect& frame, char windowNumber);
+
+    // Secondary windows (AppDelegateSecondary.cpp).
+    void gradationSaveFrame();
+    void searchSaveFrame();
+    void gradationWillClose();
+    void searchWillClose();
+
+    QString appName_;
+    AppState state_;
+    Settings settings_;
+    mainWindow* mainWindow_;
+    MenuItems menus_;
+    TitleLabel* titleLabel0_ = nullptr;
+    ImageButton* closeButton0_ = nullptr;
+    ImageButton* minButton0_ = nullptr;
+    ImageButton* maxButton0_ = nullptr;
+    ImageButton* fullButton0_ = nullptr;
+    gradationWindow* gradationWindow_ = nullptr;
+    searchWindow* searchWindow_ = nullptr;
+};
+
+} // namespace orrery::window

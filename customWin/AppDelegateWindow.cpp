@@ -1,0 +1,230 @@
+// The main window's chrome: the title bar and its rollover, the document size fields and
+// the resize around the document, full screen, and the stored frame.
+#include "core/app/DocumentArea.h"
+#include "core/model/TextNumber.h"
+#include "customWin/AppDelegate.h"
+#include "customWin/Background/BackgroundView10.h"
+#include "customWin/ImageButton.h"
+#include "customWin/Strings.h"
+#include "customWin/TitleLabel.h"
+#include "customWin/gradationWindow.h"
+#include "customWin/headerView.h"
+#include "customWin/mainView.h"
+#include "customWin/mainWindow.h"
+#include "customWin/screenView.h"
+#include "customWin/searchWindow.h"
+
+#include <QApplication>
+#include <QLineEdit>
+
+namespace orrery::window {
+namespace {
+
+constexpr int kButtonSize = 16;
+constexpr int kButtonTop = 4;   // 20 below the window's top edge, counted to the bottom
+constexpr int kTitleTop = 3;    // 28 below the top edge, counted to the bottom
+constexpr int kTitleHeight = 25;
+
+ImageButton* makeTitleButton(const char* name, const char* image, const char* accessibleKey,
+                             QWidget* parent) {
+    auto* button = new ImageButton(QLatin1String(image), parent);
+    button->setObjectName(QLatin1String(name));
+    button->setAccessibleName(text(accessibleKey));
+    button->setToolTip(button->accessibleName());
+    button->resize(kButtonSize, kButtonSize);
+    return button;
+}
+
+} // namespace
+
+void AppDelegate::registerWindowObservers() {
+    mainWindow& window = *mainWindow_;
+    connect(&window, &mainWindow::resized, this, &AppDelegate::windowDidReize);
+    connect(&window, &mainWindow::liveResizeEnded, this, &AppDelegate::windowDidEndLiveResize);
+    connect(&window, &mainWindow::closing, this, &AppDelegate::windowWillClose);
+    connect(&window, &mainWindow::enteredFullScreen, this, &AppDelegate::windowDidEnterFullscreen);
+    connect(&window, &mainWindow::leftFullScreen, this, &AppDelegate::windowDidExitFullscreen);
+    headerView& header = window.content().header();
+    connect(&header.widthField1(), &QLineEdit::returnPressed, this,
+            [this, &header] { sizeFieldReturn(header.widthField1()); });
+    connect(&header.heightField1(), &QLineEdit::returnPressed, this,
+            [this, &header] { sizeFieldReturn(header.heightField1()); });
+}
+
+void AppDelegate::buildTitleBar() {
+    QWidget& content = mainWindow_->content();
+    titleLabel0_ = new TitleLabel(&content);
+    titleLabel0_->setObjectName(QStringLiteral("titleLabel0"));
+    titleLabel0_->setText(appName_);
+    closeButton0_ =
+        makeTitleButton("closeButton0", "close-active-color", "accessibleCloseButton", &content);
+    minButton0_ = makeTitleButton("minButton0", "minimize-active-color",
+                                  "accessibleMinimizeButton", &content);
+    maxButton0_ =
+        makeTitleButton("maxButton0", "zoom-active-color", "accessibleZoomButton", &content);
+    fullButton0_ =
+        makeTitleButton("fullButton0", "fullImage", "accessibleFullScreenButton", &content);
+    fullButton0_->setVisible(state_.canEnterFull);
+    connect(closeButton0_, &QAbstractButton::clicked, this, &AppDelegate::closeWindowClicked);
+    connect(minButton0_, &QAbstractButton::clicked, this, &AppDelegate::minimizeWindowClicked);
+    connect(maxButton0_, &QAbstractButton::clicked, this, &AppDelegate::maximizeWindowClicked);
+    connect(fullButton0_, &QAbstractButton::clicked, this, &AppDelegate::fullWindowClicked);
+    connect(titleLabel0_, &TitleLabel::doubleClicked, this, &AppDelegate::maximizeWindowClicked);
+    for (ImageButton* button : {closeButton0_, minButton0_, maxButton0_}) {
+        connect(button, &ImageButton::pointerEntered, this, &AppDelegate::mouseEntered);
+        connect(button, &ImageButton::pointerLeft, this, &AppDelegate::mouseExited);
+    }
+    for (QWidget* control : {static_cast<QWidget*>(titleLabel0_),
+                             static_cast<QWidget*>(closeButton0_), static_cast<QWidget*>(minButton0_),
+                             static_cast<QWidget*>(maxButton0_), static_cast<QWidget*>(fullButton0_)})
+        control->show();
+    windowWillResize();
+}
+
+// Hovering any of the three window buttons lights all three.
+void AppDelegate::mouseEntered() {
+    closeButton0_->setImage(QStringLiteral("close-rollover-color"));
+    minButton0_->setImage(QStringLiteral("minimize-rollover-color"));
+    maxButton0_->setImage(QStringLiteral("zoom-rollover-color"));
+}
+
+void AppDelegate::mouseExited() {
+    closeButton0_->setImage(QStringLiteral("close-active-color"));
+    minButton0_->setImage(QStringLiteral("minimize-active-color"));
+    maxButton0_->setImage(QStringLiteral("zoom-active-color"));
+}
+
+void AppDelegate::windowWillResize() {
+    if (titleLabel0_ == nullptr)
+        return;
+    const int width = mainWindow_->width();
+    titleLabel0_->setGeometry(0, kTitleTop, width, kTitleHeight);
+    closeButton0_->move(8, kButtonTop);
+    minButton0_->move(28, kButtonTop);
+    maxButton0_->move(48, kButtonTop);
+    fullButton0_->move(width - 20, kButtonTop);
+    for (QWidget* button : {static_cast<QWidget*>(closeButton0_), static_cast<QWidget*>(minButton0_),
+                            static_cast<QWidget*>(maxButton0_), static_cast<QWidget*>(fullButton0_)})
+        button->raise();
+    mainWindow_->content().update();
+}
+
+void AppDelegate::windowDidEndLiveResize() {
+    windowWillResize();
+    saveWindowFrame();
+    refreshViews();
+}
+
+void AppDelegate::windowDidReize() {
+    if (state_.enteringFull) {
+        // The full-screen size arrives after the change of state: show it once it is known.
+        if (mainWindow_->isFullScreen())
+            windowDidEnterFullscreen();
+        return;
+    }
+    windowWillResize();
+    refreshViews();
+    showDocumentSize();
+}
+
+void AppDelegate::refreshViews() {
+    mainWindow_->content().backview10().update();
+    screenview().refreshMe();
+}
+
+void AppDelegate::showDocumentSize() {
+    const QSize area = mainWindow_->content().documentArea().size();
+    headerView& header = mainWindow_->content().header();
+    header.widthField1().setText(QString::fromStdString(formatFixed(area.width() - kDocumentFrame, 0)));
+    header.heightField1().setText(
+        QString::fromStdString(formatFixed(area.height() - kDocumentFrame, 0)));
+    headerView::markValid(header.widthField1(), true);
+    headerView::markValid(header.heightField1(), true);
+}
+
+void AppDelegate::sizeFieldReturn(QLineEdit& field) {
+    headerView& header = mainWindow_->content().header();
+    const DocumentAxis axis =
+        &field == &header.widthField1() ? DocumentAxis::width : DocumentAxis::height;
+    const bool valid = checkDocumentSide(field.text().toStdString(), axis) == SideCheck::valid;
+    headerView::markValid(field, valid);
+    if (valid)
+        setTopFrame();
+}
+
+void AppDelegate::setTopFrame() {
+    headerView& header = mainWindow_->content().header();
+    const PixelSize window = windowSizeForDocument(
+        {static_cast<int>(integerValue(header.widthField1().text().toStdString())),
+         static_cast<int>(integerValue(header.heightField1().text().toStdString()))});
+    mainWindow_->resize(window.width, window.height);
+    refreshViews();
+}
+
+void AppDelegate::closeWindowClicked() {
+    mainWindow_->close();
+}
+
+void AppDelegate::minimizeWindowClicked() {
+    mainWindow_->showMinimized();
+}
+
+void AppDelegate::maximizeWindowClicked() {
+    if (mainWindow_->isFullScreen())
+        return;
+    if (mainWindow_->isMaximized())
+        mainWindow_->showNormal();
+    else
+        mainWindow_->showMaximized();
+}
+
+void AppDelegate::fullWindowClicked() {
+    if (mainWindow_->isFullScreen()) {
+        mainWindow_->showNormal();
+        return;
+    }
+    windowWillEnterFullscreen();
+    mainWindow_->showFullScreen();
+}
+
+void AppDelegate::windowWillEnterFullscreen() {
+    state_.enteringFull = true;
+    for (QWidget* control : {static_cast<QWidget*>(titleLabel0_),
+                             static_cast<QWidget*>(closeButton0_), static_cast<QWidget*>(minButton0_),
+                             static_cast<QWidget*>(maxButton0_), static_cast<QWidget*>(fullButton0_)})
+        control->hide();
+    mainWindow_->content().setTitleStripShown(false);
+    menus_.windowFullScreen->setChecked(true);
+}
+
+void AppDelegate::windowDidEnterFullscreen() {
+    mainWindow_->content().update();
+    refreshViews();
+    showDocumentSize();
+}
+
+void AppDelegate::windowDidExitFullscreen() {
+    state_.enteringFull = false;
+    mainWindow_->content().setTitleStripShown(true);
+    for (QWidget* control : {static_cast<QWidget*>(titleLabel0_),
+                             static_cast<QWidget*>(closeButton0_), static_cast<QWidget*>(minButton0_),
+                             static_cast<QWidget*>(maxButton0_)})
+        control->show();
+    fullButton0_->setVisible(state_.canEnterFull);
+    menus_.windowFullScreen->setChecked(false);
+    windowWillResize();
+    refreshViews();
+    showDocumentSize();
+}
+
+void AppDelegate::windowWillClose() {
+    // Secondary windows close with the main one; the frames they had are kept.
+    if (gradationWindow_ != nullptr && gradationWindow_->isVisible())
+        gradationWindow_->close();
+    if (searchWindow_ != nullptr && searchWindow_->isVisible())
+        searchWindow_->close();
+    if (!mainWindow_->isFullScreen())
+        saveWindowFrame();
+}
+
+} // namespace orrery::window

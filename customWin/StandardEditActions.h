@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+namespace orrery::window {
+
+struct MenuItems;
+
+// The Edit menu's text commands act on the text field that has the keyboard focus (and
+// Select All also on a list or table), as in every desktop program.
+void connectStandardEditActions(const MenuItems& items);
+
+// The selected text of the focused text field, or empty.
+QString selectedTextOfFocus();
+
+} // namespace orrery::window

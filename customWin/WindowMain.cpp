@@ -1,0 +1,41 @@
+#include "customWin/WindowMain.h"
+
+#include "customWin/AppDelegate.h"
+#include "customWin/AppStyle.h"
+#include "customWin/mainWindow.h"
+#include "resources/Artwork.h"
+#include "resources/translations/Translations.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <QSurfaceFormat>
+
+namespace orrery::window {
+
+int runWindow(int argc, char** argv) {
+    // The renderer needs OpenGL 3.3 core or later, and the scene an alpha channel so that
+    // the backdrop shows through; the format must be set before any widget exists.
+    QSurfaceFormat format;
+    format.setRenderableType(QSurfaceFormat::OpenGL);
+    format.setProfile(QSurfaceFormat::CoreProfile);
+    format.setVersion(3, 3);
+    format.setAlphaBufferSize(8);
+    format.setDepthBufferSize(24);
+    QSurfaceFormat::setDefaultFormat(format);
+
+    QApplication application(argc, argv);
+    QGuiApplication::setDesktopFileName(QStringLiteral("orrery"));
+    QApplication::setWindowIcon(artwork::applicationIcon());
+    translations::install(application, QLocale());
+    applyAppStyle(application);
+
+    AppDelegate delegate;
+    QApplication::setApplicationName(delegate.readAppname());
+    // Closing the main window quits, whatever secondary windows are open.
+    QObject::connect(&delegate.window(), &mainWindow::closing, &application, &QApplication::quit,
+                     Qt::QueuedConnection);
+    delegate.applicationWillFinishLaunching();
+    return QApplication::exec();
+}
+
+} // namespace orrery::window

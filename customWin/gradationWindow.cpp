@@ -1,0 +1,74 @@
+#include "customWin/gradationWindow.h"
+
+#include "core/styles/GradientLibrary.h"
+#include "core/styles/StyleImages.h"
+#include "customWin/Strings.h"
+
+#include <QListWidget>
+#include <QPainter>
+#include <QPainterPath>
+#include <QVBoxLayout>
+
+namespace orrery::window {
+namespace {
+
+constexpr int kSwatch = 64;
+
+// A swatch drawn at the screen's scale, with rounded corners and a hairline rim.
+QIcon swatchIcon(const gradientLibrary& library, std::int64_t number, qreal scale) {
+    const int side = static_cast<int>(kSwatch * scale);
+    const Image gradient = makeGradientImage(library.getGradient(number), side, side, 270.0);
+    QPixmap pixmap(side, side);
+    pixmap.fill(Qt::transparent);
+    if (!gradient.isNull()) {
+        const QImage wrapped(gradient.pixels.data(), gradient.width, gradient.height,
+                             static_cast<qsizetype>(gradient.stride()), QImage::Format_RGBA8888);
+        QPainter painter(&pixmap);
+        painter.setRenderHint(QPainter::Antialiasing);
+        QPainterPath shape;
+        shape.addRoundedRect(QRectF(0.5, 0.5, side - 1.0, side - 1.0), 6 * scale, 6 * scale);
+        painter.setClipPath(shape);
+        painter.drawImage(0, 0, wrapped);
+        painter.setClipping(false);
+        painter.setPen(QPen(QColor(255, 255, 255, 60), scale));
+        painter.drawPath(shape);
+    }
+    pixmap.setDevicePixelRatio(scale);
+    return QIcon(pixmap);
+}
+
+} // namespace
+
+gradationWindow::gradationWindow(QWidget* parent)
+    : FramedWindow(parent), swatches_(new QListWidget(this)) {
+    setObjectName(QStringLiteral("gradationWindow"));
+    setWindowTitle(text("gradationWindowTitle"));
+    swatches_->setObjectName(QStringLiteral("gradationList"));
+    swatches_->setAccessibleName(text("gradationWindowTitle"));
+    swatches_->setViewMode(QListView::IconMode);
+    swatches_->setResizeMode(QListView::Adjust);
+    swatches_->setMovement(QListView::Static);
+    swatches_->setUniformItemSizes(true);
+    swatches_->setIconSize(QSize(kSwatch, kSwatch));
+    swatches_->setGridSize(QSize(kSwatch + 22, kSwatch + 28));
+    swatches_->setSpacing(4);
+    swatches_->setSelectionMode(QAbstractItemView::SingleSelection);
+    const gradientLibrary library;
+    const qreal scale = devicePixelRatioF();
+    for (std::int64_t number = 0; number < gradientLibrary::kCatalogueSize; ++number) {
+        auto* item = new QListWidgetItem(swatchIcon(library, number, scale),
+                                         QString::number(number), swatches_);
+        item->setToolTip(textWith("gradientNumber", QString::number(number)));
+        item->setTextAlignment(Qt::AlignHCenter);
+    }
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(swatches_);
+    resize(560, 480);
+}
+
+int gradationWindow::swatchCount() const {
+    return swatches_->count();
+}
+
+} // namespace orrery::window

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QLineEdit;
+class QMenuBar;
+
+namespace orrery::window {
+
+// The strip under the title: the menus on the left, the document size on the right.
+class headerView : public QWidget {
+    Q_OBJECT
+public:
+    explicit headerView(QWidget* parent);
+
+    QMenuBar& menuBar() { return *menuBar_; }
+    QLineEdit& widthField1() { return *width_; }
+    QLineEdit& heightField1() { return *height_; }
+    // The texts of the size label and of the sign between the two fields.
+    void setTexts(const QString& sizeLabel, const QString& times);
+
+    // Red for a size that cannot be used, black for one that can; the text is kept.
+    static void markValid(QLineEdit& field, bool valid);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QMenuBar* menuBar_;
+    QLabel* sizeLabel_;
+    QLineEdit* width_;
+    QLabel* times_;
+    QLineEdit* height_;
+};
+
+} // namespace orrery::window

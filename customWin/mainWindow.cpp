@@ -1,0 +1,117 @@
+#include "customWin/mainWindow.h"
+
+#include "core/app/DocumentArea.h"
+#include "customWin/mainView.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMouseEvent>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace orrery::window {
+namespace {
+
+// How far in from the window's border the pointer grabs an edge.
+constexpr int kResizeMargin = 6;
+// A resize by hand sends a stream of size changes; it has ended when they pause this long.
+constexpr int kLiveResizePauseMs = 300;
+
+Qt::CursorShape cursorFor(Qt::Edges edges) {
+    const bool horizontal = edges & (Qt::LeftEdge | Qt::RightEdge);
+    const bool vertical = edges & (Qt::TopEdge | Qt::BottomEdge);
+    if (horizontal && vertical) {
+        const bool falling = (edges & Qt::LeftEdge) ? bool(edges & Qt::TopEdge)
+                                                    : bool(edges & Qt::BottomEdge);
+        return falling ? Qt::SizeFDiagCursor : Qt::SizeBDiagCursor;
+    }
+    return horizontal ? Qt::SizeHorCursor : Qt::SizeVerCursor;
+}
+
+} // namespace
+
+mainWindow::mainWindow() : content_(new mainView(this)) {
+    setObjectName(QStringLiteral("mainWindow"));
+    setWindowFlag(Qt::FramelessWindowHint);
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    const PixelSize smallest = minimumWindowSize();
+    const PixelSize largest = maximumWindowSize();
+    setMinimumSize(smallest.width, smallest.height);
+    setMaximumSize(largest.width, largest.height);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(content_);
+    liveResize_.setSingleShot(true);
+    liveResize_.setInterval(kLiveResizePauseMs);
+    connect(&liveResize_, &QTimer::timeout, this, &mainWindow::liveResizeEnded);
+    qApp->installEventFilter(this);
+}
+
+void mainWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    emit resized();
+    if (isVisible() && !isFullScreen())
+        liveResize_.start();
+}
+
+void mainWindow::closeEvent(QCloseEvent* event) {
+    emit closing();
+    event->accept();
+}
+
+void mainWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange || isFullScreen() == wasFullScreen_)
+        return;
+    wasFullScreen_ = isFullScreen();
+    if (wasFullScreen_)
+        emit enteredFullScreen();
+    else
+        emit leftFullScreen();
+}
+
+Qt::Edges mainWindow::edgesAt(const QPoint& p) const {
+    if (isFullScreen() || isMaximized())
+        return {};
+    Qt::Edges edges;
+    if (p.x() < kResizeMargin)
+        edges |= Qt::LeftEdge;
+    if (p.x() >= width() - kResizeMargin)
+        edges |= Qt::RightEdge;
+    if (p.y() < kResizeMargin)
+        edges |= Qt::TopEdge;
+    if (p.y() >= height() - kResizeMargin)
+        edges |= Qt::BottomEdge;
+    return edges;
+}
+
+void mainWindow::showEdgeCursor(Qt::Edges edges) {
+    if (edges == cursorEdges_)
+        return;
+    if (cursorEdges_)
+        QApplication::restoreOverrideCursor();
+    if (edges)
+        QApplication::setOverrideCursor(cursorFor(edges));
+    cursorEdges_ = edges;
+}
+
+bool mainWindow::eventFilter(QObject* watched, QEvent* event) {
+    const QEvent::Type type = event->type();
+    if (type != QEvent::MouseMove && type != QEvent::MouseButtonPress)
+        return QWidget::eventFilter(watched, event);
+    auto* widget = qobject_cast<QWidget*>(watched);
+    if (widget == nullptr || widget->window() != this)
+        return QWidget::eventFilter(watched, event);
+    auto* mouse = static_cast<QMouseEvent*>(event);
+    const Qt::Edges edges = edgesAt(mapFromGlobal(mouse->globalPosition().toPoint()));
+    if (type == QEvent::MouseMove && mouse->buttons() == Qt::NoButton)
+        showEdgeCursor(edges);
+    if (type == QEvent::MouseButtonPress && mouse->button() == Qt::LeftButton && edges &&
+        windowHandle() != nullptr) {
+        windowHandle()->startSystemResize(edges);
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace orrery::window

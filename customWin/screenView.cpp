@@ -1,0 +1,88 @@
+#include "customWin/screenView.h"
+
+#include "core/styles/AxisCross.h"
+#include "core/styles/StyleImages.h"
+
+#include <QPainter>
+
+namespace orrery::window {
+namespace {
+
+QColor toQColor(const Color& colour) {
+    return QColor::fromRgbF(static_cast<float>(colour.red), static_cast<float>(colour.green),
+                            static_cast<float>(colour.blue), static_cast<float>(colour.alpha));
+}
+
+} // namespace
+
+screenView::screenView(QWidget* parent) : QWidget(parent) {
+    setObjectName(QStringLiteral("screenView"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setColor(0);
+}
+
+void screenView::setColor(long index) {
+    currentColor_ = index;
+    changeBackColor(index);
+}
+
+void screenView::changeBackColor(long index) {
+    // Made at the size in points and drawn at the device's scale without smoothing: the
+    // checkerboard's 20-point squares stay crisp, solid colours stay solid.
+    background_ = backgroundImage(index, width(), height());
+    if (background_.isNull()) {
+        myImage_ = QImage();
+    } else {
+        // The squares are counted from the bottom-left corner, where the scene has its
+        // origin; the picture's rows run from the top.
+        myImage_ = QImage(background_.pixels.data(), background_.width, background_.height,
+                          static_cast<qsizetype>(background_.stride()),
+                          QImage::Format_RGBA8888)
+                       .mirrored(false, true);
+    }
+    update();
+}
+
+void screenView::refreshMe() {
+    changeBackColor(currentColor_);
+}
+
+void screenView::hideAxes(bool show) {
+    showAxes_ = show;
+    update();
+}
+
+void screenView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    if (!myImage_.isNull())
+        painter.drawImage(rect(), myImage_);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    if (showAxes_)
+        drawAxes(painter);
+}
+
+void screenView::drawAxes(QPainter& painter) const {
+    const AxisCross cross = axisCross(width(), height());
+    const auto flip = [this](const AxisPoint& point) {
+        return QPointF(point.x, height() - point.y);
+    };
+    painter.setRenderHint(QPainter::Antialiasing);
+    const auto stroke = [&](const auto& segments, const Color& colour) {
+        painter.setPen(QPen(toQColor(colour), AxisCross::lineWidth, Qt::SolidLine, Qt::RoundCap));
+        for (const AxisSegment& segment : segments)
+            painter.drawLine(flip(segment.from), flip(segment.to));
+    };
+    stroke(cross.xStrokes, cross.xColor);
+    stroke(cross.yStrokes, cross.yColor);
+
+    QFont font(QStringLiteral("Helvetica"));
+    font.setPixelSize(static_cast<int>(AxisCross::labelPointSize));
+    painter.setFont(font);
+    for (const AxisLabel& label : cross.labels) {
+        painter.setPen(toQColor(label.color));
+        painter.drawText(flip(label.origin), QString::fromStdString(label.text));
+    }
+}
+
+} // namespace orrery::window
