@@ -12,7 +12,7 @@
 
 namespace orrery::window {
 
-int runWindow(int argc, char** argv) {
+void useSceneSurfaceFormat() {
     // The renderer needs OpenGL 3.3 core or later, and the scene an alpha channel so that
     // the backdrop shows through; the format must be set before any widget exists.
     QSurfaceFormat format;
@@ -22,7 +22,10 @@ int runWindow(int argc, char** argv) {
     format.setAlphaBufferSize(8);
     format.setDepthBufferSize(24);
     QSurfaceFormat::setDefaultFormat(format);
+}
 
+int runWindow(int argc, char** argv) {
+    useSceneSurfaceFormat();
     QApplication application(argc, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("orrery"));
     QApplication::setWindowIcon(artwork::applicationIcon());

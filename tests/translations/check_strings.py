@@ -9,7 +9,7 @@ against the window code that looks texts up in it.
   (b) every text("key"), textWith("key", ...), qtTrId("key") and QT_TRID_NOOP("key")
       in the *.cpp and *.h files under the source folders names a key of orrery_en.ts,
       and textWith() is only used with a key whose text takes an argument; so does
-      every literal of the spec's key families ("makeMenu...", "controlPreferences...",
+      every literal of the menu and control key families ("makeMenu...", "controlPreferences...",
       ...), wherever it stands, since tables of keys are not calls;
   (c) every other orrery_<lang>.ts translates every key of the English file.
 

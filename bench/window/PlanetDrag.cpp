@@ -1,0 +1,121 @@
+#include "bench/window/PlanetDrag.h"
+
+#include "bench/window/ChildProcess.h"
+#include "core/app/DocumentArea.h"
+#include "core/styles/GradientCatalogue.h"
+#include "core/styles/SurfaceNames.h"
+#include "customWin/sceneView.h"
+
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <random>
+
+namespace orrery::bench {
+namespace {
+
+constexpr QSize kDocument(1920, 1080);
+constexpr double kDragSeconds = 2.0;
+constexpr int kFrameTimeoutMs = 5000;
+constexpr int kWarmUpMoves = 3;
+constexpr double kDraggedZ = 200.0;
+constexpr const char* kDraggedPlanet = "1424700000";
+
+// The planets strewn through the camera's view from 500 to 3000 units away, three in four
+// styled and surfaced, the rest plain; the dragged one in front of them all at the middle.
+void populate(SceneView& scene, int planets) {
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> across(-0.9, 0.9);
+    std::uniform_real_distribution<double> away(500.0, 3000.0);
+    std::uniform_real_distribution<double> radius(8.0, 40.0);
+    const double halfHeightPerUnit = std::tan(std::numbers::pi / 8); // 45 degrees vertically
+    const double aspect = scene.viewWidth() / scene.viewHeight();
+    const double cameraZ = scene.cameraNode().position().z;
+    const Color blue{0.2, 0.4, 0.9, 1.0};
+    for (int i = 1; i < planets; ++i) {
+        const double distance = away(random);
+        const double halfHeight = distance * halfHeightPerUnit;
+        const std::string x = std::to_string(across(random) * halfHeight * aspect);
+        const std::string y = std::to_string(across(random) * halfHeight);
+        const std::string z = std::to_string(cameraZ - distance);
+        const std::string r = std::to_string(radius(random));
+        const std::string tsecs = std::to_string(1424700000 + i);
+        if (i % 4 == 0)
+            scene.createPlanet(tsecs, x, y, z, r);
+        else
+            scene.createPlanet2(tsecs, blue, i % 3 == 0 ? 0 : 1 + i % (catalogue::kRowCount - 1),
+                                1 + i % kSurfaceCount, x, y, z, r);
+    }
+    scene.createPlanet2(kDraggedPlanet, blue, 5, 3, "0", "0", std::to_string(kDraggedZ), "30");
+}
+
+// The window around the document, at the screen's top-left corner so that all of it shows.
+bool placeWindow(window::sceneView& view, QSignalSpy& painted) {
+    QWidget& window = *view.window();
+    const PixelSize size = windowSizeForDocument({kDocument.width(), kDocument.height()});
+    window.setGeometry(
+        QRect(view.screen()->availableGeometry().topLeft(), QSize(size.width, size.height)));
+    if (!QTest::qWaitFor([&] { return view.size() == kDocument; }, kFrameTimeoutMs))
+        return false;
+    view.update();
+    return painted.wait(kFrameTimeoutMs);
+}
+
+// The pointer goes round a circle about the planet's first place, 10 pixels a move.
+QPoint pointOfMove(QPoint grab, int move) {
+    constexpr double kRadius = 200.0;
+    const double angle = move * 0.05;
+    return grab + QPoint(static_cast<int>(std::lround(kRadius * std::cos(angle))),
+                         static_cast<int>(std::lround(kRadius * std::sin(angle))));
+}
+
+} // namespace
+
+bool reportPlanetDrag(window::sceneView& view, int planets) {
+    QSignalSpy painted(&view, &window::sceneView::framePainted);
+    QSignalSpy moved(&view, &window::sceneView::planetMoved);
+    if (!placeWindow(view, painted))
+        return false;
+    report("document", std::to_string(view.width()) + "x" + std::to_string(view.height()));
+    report("fits", view.screen()->geometry().contains(view.window()->frameGeometry()) ? 1 : 0);
+
+    populate(view.scene(), planets);
+    if (!painted.wait(kFrameTimeoutMs))
+        return false;
+    const Vec3 centre = view.scene().projectPoint({0, 0, kDraggedZ});
+    const QPoint grab(static_cast<int>(std::lround(centre.x)),
+                      view.height() - static_cast<int>(std::lround(centre.y)));
+    QTest::mousePress(&view, Qt::LeftButton, {}, grab);
+    int move = 0;
+    for (; move < kWarmUpMoves; ++move) {
+        QTest::mouseMove(&view, pointOfMove(grab, move));
+        if (!painted.wait(kFrameTimeoutMs))
+            return false;
+    }
+
+    int frames = 0;
+    double worst = 0.0;
+    double seconds = 0.0;
+    const Clock::time_point begin = Clock::now();
+    while (seconds < kDragSeconds) {
+        const Clock::time_point before = Clock::now();
+        QTest::mouseMove(&view, pointOfMove(grab, move++));
+        if (!painted.wait(kFrameTimeoutMs))
+            return false;
+        ++frames;
+        worst = std::max(worst, millisecondsSince(before));
+        seconds = millisecondsSince(begin) / 1000.0;
+    }
+    QTest::mouseRelease(&view, Qt::LeftButton, {}, pointOfMove(grab, move));
+    report("fps", frames / seconds);
+    report("frames", frames);
+    report("worst_ms", worst);
+    report("moves", static_cast<double>(moved.count()));
+    return true;
+}
+
+} // namespace orrery::bench

@@ -1,0 +1,220 @@
+#!/usr/bin/env python3
+"""Starts the window and reads it back from the accessibility bus (AT-SPI).
+
+Run inside a session bus and an X server, as ctest does:
+    dbus-run-session -- xvfb-run -a python3 check_accessibility.py path/to/orrery
+
+The program starts with a fresh settings folder. Once it is on the bus, the check:
+  - finds the main window's controls by role and accessible name (menus, document size
+    fields, title-bar buttons, scene and backdrop views);
+  - opens the style library and the find window from the Window menu and finds their lists;
+  - walks every window's whole tree and names each control whose accessible name is empty,
+    with its role and its path from the application.
+Screen readers see only roles and accessible names, never object names, so every check
+goes by those.
+"""
+
+import os
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+REGISTER_TIMEOUT = 30.0  # seconds for the program to appear on the bus
+TREE_TIMEOUT = 20.0      # seconds for an expected part of the tree to appear
+POLL = 0.2
+
+MENUS = ["File", "Edit", "Planet", "Scene", "Window", "Help"]
+TITLE_BUTTONS = ["Close", "Minimize", "Zoom", "Full screen"]
+SIZE_FIELDS = ["Document width", "Document height"]
+VIEWS = ["Scene", "Document area"]  # the live scene and the backdrop behind it
+SECONDARY = ["Style Library", "Find Planet"]  # Window menu items and their windows' titles
+
+
+def fail(message):
+    print(f"AccessibilityBus: {message}", file=sys.stderr)
+    sys.exit(1)
+
+
+try:
+    import gi
+    gi.require_version("Gio", "2.0")
+    from gi.repository import Gio, GLib
+    import pyatspi
+except (ImportError, ValueError) as error:
+    fail(f"{sys.executable} cannot load pyatspi ({error}); install python3-pyatspi")
+
+# Roles a person operates or reads as a control; each needs a name of its own.
+CONTROL_ROLES = {
+    pyatspi.ROLE_PUSH_BUTTON, pyatspi.ROLE_TOGGLE_BUTTON, pyatspi.ROLE_CHECK_BOX,
+    pyatspi.ROLE_RADIO_BUTTON, pyatspi.ROLE_TEXT, pyatspi.ROLE_ENTRY,
+    pyatspi.ROLE_PASSWORD_TEXT, pyatspi.ROLE_SPIN_BUTTON, pyatspi.ROLE_COMBO_BOX,
+    pyatspi.ROLE_SLIDER, pyatspi.ROLE_MENU, pyatspi.ROLE_POPUP_MENU, pyatspi.ROLE_MENU_ITEM,
+    pyatspi.ROLE_CHECK_MENU_ITEM, pyatspi.ROLE_RADIO_MENU_ITEM, pyatspi.ROLE_LIST,
+    pyatspi.ROLE_LIST_BOX, pyatspi.ROLE_LIST_ITEM, pyatspi.ROLE_TABLE,
+    pyatspi.ROLE_TREE_TABLE, pyatspi.ROLE_TREE, pyatspi.ROLE_PAGE_TAB, pyatspi.ROLE_CANVAS,
+}
+
+
+def children(node):
+    try:
+        return [child for child in node if child is not None]
+    except GLib.Error:
+        return []
+
+
+def step(node, index):
+    """One step of a path: the role and the name, or the index among siblings when unnamed."""
+    name = node.name
+    return f"{node.getRoleName()} '{name}'" if name else f"{node.getRoleName()} #{index}"
+
+
+def walk(node, path=()):
+    """Every node under node, with the path of steps that leads to it."""
+    for index, child in enumerate(children(node)):
+        here = path + (step(child, index),)
+        yield child, here
+        yield from walk(child, here)
+
+
+def find(root, role, name):
+    return [node for node, _ in walk(root) if node.getRole() == role and node.name == name]
+
+
+def wait_until(problems_of, timeout):
+    """Polls until problems_of() returns none; returns the last problems at the deadline."""
+    deadline = time.monotonic() + timeout
+    while True:
+        try:
+            problems = problems_of()
+        except GLib.Error as error:  # the tree changed under us: read it again
+            problems = [f"the bus answered with an error: {error.message}"]
+        if not problems or time.monotonic() > deadline:
+            return problems
+        time.sleep(POLL)
+
+
+def start_bus(runtime):
+    """Starts the accessibility bus with its socket in runtime.
+
+    The bus launcher is started by the session bus, with the session bus's environment:
+    without this, its socket would be ~/.cache/at-spi/bus for every test that runs at the
+    same time, each new bus taking the socket from the one before.
+    """
+    if not os.environ.get("DBUS_SESSION_BUS_ADDRESS"):
+        fail("no session bus; run inside dbus-run-session")
+    if not os.environ.get("DISPLAY"):
+        fail("no X display; run inside xvfb-run -a")
+    try:
+        bus = Gio.bus_get_sync(Gio.BusType.SESSION, None)
+        private = {"XDG_RUNTIME_DIR": runtime, "DISPLAY": os.environ["DISPLAY"]}
+        bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+                      "UpdateActivationEnvironment", GLib.Variant("(a{ss})", (private,)),
+                      None, Gio.DBusCallFlags.NONE, 10000, None)
+        bus.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None,
+                      GLib.VariantType("(s)"), Gio.DBusCallFlags.NONE, 10000, None)
+    except GLib.Error as error:
+        fail(f"the accessibility bus does not start ({error.message}); "
+             "install at-spi2-core")
+
+
+def find_application(program):
+    deadline = time.monotonic() + REGISTER_TIMEOUT
+    while time.monotonic() < deadline:
+        if program.poll() is not None:
+            fail(f"the program ended with status {program.returncode} before it reached the bus")
+        for app in children(pyatspi.Registry.getDesktop(0)):
+            try:
+                if app.get_process_id() == program.pid:
+                    return app
+            except GLib.Error:
+                pass  # an application that just left the bus
+        time.sleep(POLL)
+    fail(f"the program did not appear on the accessibility bus within {REGISTER_TIMEOUT:.0f} s "
+         "(is QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 honoured?)")
+
+
+def main_window_problems(app):
+    problems = []
+    bars = [node for node, _ in walk(app) if node.getRole() == pyatspi.ROLE_MENU_BAR]
+    if len(bars) != 1:
+        problems.append(f"expected one menu bar, found {len(bars)}")
+    else:
+        menus = [child.name for child in children(bars[0])]
+        if menus != MENUS:
+            problems.append(f"the menu bar lists {menus}, expected {MENUS}")
+    wanted = [(pyatspi.ROLE_TEXT, name) for name in SIZE_FIELDS]
+    wanted += [(pyatspi.ROLE_PUSH_BUTTON, name) for name in TITLE_BUTTONS]
+    wanted += [(pyatspi.ROLE_FILLER, name) for name in VIEWS]
+    for role, name in wanted:
+        found = len(find(app, role, name))
+        if found != 1:
+            problems.append(f"expected one {pyatspi.Role(role).value_nick} named '{name}', "
+                            f"found {found}")
+    return problems
+
+
+def secondary_window_problems(app):
+    problems = []
+    for title in SECONDARY:
+        windows = [child for child in children(app) if child.name == title]
+        if len(windows) != 1 or not find(windows[0], pyatspi.ROLE_LIST, title):
+            problems.append(f"no window '{title}' with a list named '{title}'")
+    return problems
+
+
+def open_secondary_windows(app):
+    for title in SECONDARY:
+        items = find(app, pyatspi.ROLE_MENU_ITEM, title)
+        if len(items) != 1 or not items[0].queryAction().doAction(0):
+            return [f"cannot choose the menu item '{title}' (found {len(items)})"]
+    return wait_until(lambda: secondary_window_problems(app), TREE_TIMEOUT)
+
+
+def unnamed_controls(app):
+    problems = []
+    for node, path in walk(app):
+        role = node.getRole()
+        if role in CONTROL_ROLES and not node.name.strip():
+            problems.append(f"unnamed {node.getRoleName()}: {' > '.join(path)}")
+    return problems
+
+
+def end(program):
+    if program.poll() is None:
+        program.terminate()
+        try:
+            program.wait(timeout=10)
+        except subprocess.TimeoutExpired:
+            program.kill()
+            program.wait()
+
+
+def main():
+    if len(sys.argv) != 2:
+        fail("usage: check_accessibility.py PATH_TO_ORRERY")
+    # ctest ends a test that overruns with SIGTERM: end the program on the way out.
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit("AccessibilityBus: terminated"))
+    with tempfile.TemporaryDirectory(prefix="orrery-a11y-") as home:
+        runtime = os.path.join(home, "runtime")
+        os.mkdir(runtime, 0o700)
+        start_bus(runtime)
+        env = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
+                   XDG_DATA_HOME=os.path.join(home, "data"), XDG_RUNTIME_DIR=runtime)
+        program = subprocess.Popen([sys.argv[1]], env=env)
+        try:
+            app = find_application(program)
+            problems = wait_until(lambda: main_window_problems(app), TREE_TIMEOUT)
+            if not problems:
+                problems = open_secondary_windows(app)
+            problems += unnamed_controls(app)
+        finally:
+            end(program)
+    if problems:
+        fail(f"{len(problems)} problem(s):\n  " + "\n  ".join(problems))
+    print("AccessibilityBus: every control on the bus has a name")
+
+
+if __name__ == "__main__":
+    main()

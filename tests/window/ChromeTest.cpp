@@ -1,0 +1,106 @@
+#include "customWin/ImageButton.h"
+#include "customWin/mainWindow.h"
+#include "tests/window/WindowTestSuites.h"
+#include "tests/window/WindowTestSupport.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+
+namespace orrery::window::testing {
+namespace {
+
+void typeAndReturn(QLineEdit& field, const QString& text) {
+    field.setFocus();
+    field.selectAll();
+    QTest::keyClicks(&field, text);
+    QTest::keyClick(&field, Qt::Key_Return);
+}
+
+bool isRed(const QLineEdit& field) {
+    return field.palette().color(QPalette::Text) == QColor(Qt::red);
+}
+
+} // namespace
+
+class ChromeTest : public QObject {
+    Q_OBJECT
+private slots:
+    void init() {
+        app_ = std::make_unique<FreshStart>();
+        app_->start();
+    }
+    void cleanup() { app_.reset(); }
+
+    void sizeFieldsResizeTheWindowAroundTheDocumentOrTurnRed() {
+        mainWindow& window = app_->delegate().window();
+        auto& width = child<QLineEdit>(window, "widthField1");
+        auto& height = child<QLineEdit>(window, "heightField1");
+        const QSize before = window.size();
+        typeAndReturn(width, QStringLiteral("609"));
+        QVERIFY(isRed(width));
+        QCOMPARE(width.text(), QStringLiteral("609"));
+        QTest::qWait(50);
+        QCOMPARE(window.size(), before);
+
+        typeAndReturn(width, QStringLiteral("610"));
+        QVERIFY(!isRed(width));
+        QTRY_COMPARE(window.width(), 652);
+        QCOMPARE(child<QWidget>(window, "sceneView").size(), QSize(610, 540));
+        QCOMPARE(child<QWidget>(window, "screenView").size(), QSize(610, 540));
+
+        typeAndReturn(height, QStringLiteral("12a"));
+        QVERIFY(isRed(height));
+        typeAndReturn(height, QStringLiteral("420"));
+        QTRY_COMPARE(window.height(), 684);
+        QVERIFY(!isRed(height));
+    }
+
+    void hoveringOneWindowButtonLightsAllThree() {
+        mainWindow& window = app_->delegate().window();
+        auto& close = child<ImageButton>(window, "closeButton0");
+        auto& minimise = child<ImageButton>(window, "minButton0");
+        auto& zoom = child<ImageButton>(window, "maxButton0");
+        QCOMPARE(minimise.geometry(), QRect(28, 4, 16, 16));
+        QTest::mouseMove(&minimise, QPoint(8, 8));
+        QTRY_COMPARE(close.imageName(), QStringLiteral("close-rollover-color"));
+        QCOMPARE(minimise.imageName(), QStringLiteral("minimize-rollover-color"));
+        QCOMPARE(zoom.imageName(), QStringLiteral("zoom-rollover-color"));
+        QTest::mouseMove(&child<QLabel>(window, "titleLabel0"), QPoint(400, 12));
+        QTRY_COMPARE(close.imageName(), QStringLiteral("close-active-color"));
+        QCOMPARE(minimise.imageName(), QStringLiteral("minimize-active-color"));
+        QCOMPARE(zoom.imageName(), QStringLiteral("zoom-active-color"));
+    }
+
+    void fullScreenHidesTheTitleBarAndShowsTheLargerDocument() {
+        mainWindow& window = app_->delegate().window();
+        auto& full = child<ImageButton>(window, "fullButton0");
+        QTest::mouseClick(&full, Qt::LeftButton);
+        QTRY_VERIFY(window.isFullScreen());
+        QTRY_COMPARE(window.size(), window.screen()->size());
+        QVERIFY(!child<QLabel>(window, "titleLabel0").isVisible());
+        QVERIFY(!full.isVisible());
+        // The title strip folds away: the document takes the screen less the chrome.
+        QTRY_COMPARE(child<QLineEdit>(window, "widthField1").text(), QStringLiteral("1878"));
+        QCOMPARE(child<QLineEdit>(window, "heightField1").text(), QStringLiteral("844"));
+
+        app_->delegate().menus().windowFullScreen->trigger();
+        QTRY_VERIFY(!window.isFullScreen());
+        QTRY_COMPARE(child<QLineEdit>(window, "widthField1").text(), QStringLiteral("960"));
+        QCOMPARE(child<QLineEdit>(window, "heightField1").text(), QStringLiteral("540"));
+        QVERIFY(child<QLabel>(window, "titleLabel0").isVisible());
+        QVERIFY(full.isVisible());
+    }
+
+private:
+    std::unique_ptr<FreshStart> app_;
+};
+
+std::unique_ptr<QObject> makeChromeTest() {
+    return std::make_unique<ChromeTest>();
+}
+
+} // namespace orrery::window::testing
+
+#include "ChromeTest.moc"

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QObject>
+
+#include <memory>
+
+// The window's test suites; the test program runs the one named on its command line, so
+// that each runs as a test of its own.
+namespace orrery::window::testing {
+
+std::unique_ptr<QObject> makeStartupTest();
+std::unique_ptr<QObject> makeChromeTest();
+std::unique_ptr<QObject> makeMenuTest();
+std::unique_ptr<QObject> makeSceneTest();
+
+} // namespace orrery::window::testing
