@@ -147,6 +147,7 @@ void AppDelegate::supportHelp() {
 void AppDelegate::showAbout() {
     auto* about = new QMessageBox(mainWindow_);
     about->setObjectName(QStringLiteral("aboutSheet"));
+    makeSheet(*about);
     about->setIconPixmap(artwork::applicationIcon().pixmap(96, 96));
     about->setText(QStringLiteral("<b>%1</b>").arg(appName_.toHtmlEscaped()));
     about->setInformativeText(textWith("aboutText", QString::fromStdString(state_.appVersion)));

@@ -15,6 +15,10 @@ inline constexpr int kFirstButton = 1000;
 inline constexpr int kSecondButton = 1001;
 inline constexpr int kSheetDrop = 25;
 
+// Makes a dialog a sheet of the window: no frame of its own (it hangs from the window's
+// title bar), the program's icon where a message box has one, window-modal.
+void makeSheet(QDialog& sheet);
+
 // Moves an opened sheet to its place on the window.
 void placeAsSheet(QDialog& sheet, const QWidget& window);
 

@@ -1,0 +1,115 @@
+// Pictures of the real window in the states a person sees, for the user guide and for
+// looking at the window as a user would. Run on an X server with a window manager:
+//   tests/window/with-desktop build/release/tools/screenshots/orrery-screenshots OUT PACKAGE
+#include "core/export/PackageScene.h"
+#include "core/package/ProjectPackage.h"
+#include "customWin/AppDelegate.h"
+#include "customWin/AppStyle.h"
+#include "customWin/WindowMain.h"
+#include "customWin/mainWindow.h"
+#include "customWin/sceneView.h"
+#include "resources/translations/Translations.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstdio>
+
+namespace {
+
+using orrery::window::AppDelegate;
+
+// Lets the window settle: events handled, the scene drawn, the compositor caught up.
+void settle() {
+    QTest::qWait(400);
+}
+
+void save(const QRect& area, const QString& path) {
+    const QPixmap shot = QGuiApplication::primaryScreen()->grabWindow(0, area.x(), area.y(),
+                                                                    area.width(), area.height());
+    if (!shot.save(path))
+        std::fprintf(stderr, "cannot write %s\n", qPrintable(path));
+    else
+        std::printf("%s\n", qPrintable(path));
+}
+
+void saveWindow(QWidget& window, const QString& path, int below = 0) {
+    settle();
+    save(window.frameGeometry().adjusted(0, 0, 0, below), path);
+}
+
+void openSystem(AppDelegate& app, const QString& package) {
+    orrery::OpenedProject project;
+    std::string error;
+    if (!orrery::readProjectPackage(package.toStdString(), project, error)) {
+        std::fprintf(stderr, "%s\n", error.c_str());
+        return;
+    }
+    orrery::loadPackageScene(app.sceneview().scene(), project);
+    for (const orrery::PlanetRecord& planet : project.planets)
+        app.state().planetArray.append(planet);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 3) {
+        std::fprintf(stderr, "usage: %s OUTPUT-FOLDER PACKAGE.kvx\n", argv[0]);
+        return 1;
+    }
+    QTemporaryDir dataHome;
+    qputenv("XDG_DATA_HOME", dataHome.path().toLocal8Bit());
+    orrery::window::useSceneSurfaceFormat();
+    QApplication application(argc, argv);
+    orrery::translations::install(application, QLocale());
+    orrery::window::applyAppStyle(application);
+    const QDir out(QString::fromLocal8Bit(argv[1]));
+    QDir().mkpath(out.path());
+
+    AppDelegate app;
+    app.applicationWillFinishLaunching();
+    QWidget& window = app.window();
+    saveWindow(window, out.filePath(QStringLiteral("first-start.png")));
+
+    openSystem(app, QString::fromLocal8Bit(argv[2]));
+    app.setSceneBackground(3);
+    saveWindow(window, out.filePath(QStringLiteral("system-on-navy.png")));
+
+    QMenu& scene = *app.menus().sceneMenu;
+    QMenuBar& bar = *window.findChild<QMenuBar*>(QStringLiteral("menuBar"));
+    scene.popup(bar.mapToGlobal(bar.actionGeometry(scene.menuAction()).bottomLeft()));
+    settle();
+    app.menus().sceneColors->popup(
+        scene.mapToGlobal(scene.actionGeometry(app.menus().sceneColors->menuAction()).topRight()));
+    saveWindow(window, out.filePath(QStringLiteral("scene-menu.png")));
+    app.menus().sceneColors->close();
+    scene.close();
+
+    app.menus().helpUserguide->trigger();
+    saveWindow(window, out.filePath(QStringLiteral("help-question.png")));
+    if (QWidget* sheet = QApplication::activeModalWidget())
+        sheet->close();
+
+    app.openGradationWindow();
+    settle();
+    saveWindow(*window.findChild<QWidget*>(QStringLiteral("gradationWindow")),
+               out.filePath(QStringLiteral("style-library.png")));
+    window.findChild<QWidget*>(QStringLiteral("gradationWindow"))->close();
+
+    app.openSearchWindow();
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("e"));
+    saveWindow(*window.findChild<QWidget*>(QStringLiteral("searchWindow")),
+               out.filePath(QStringLiteral("find-planet.png")));
+    window.findChild<QWidget*>(QStringLiteral("searchWindow"))->close();
+
+    app.fullWindowClicked();
+    QTest::qWait(600);
+    saveWindow(window, out.filePath(QStringLiteral("full-screen.png")));
+    return 0;
+}
