@@ -133,6 +133,7 @@ void AppDelegate::makeNSControls() {
     sceneview().setAccessibleName(text("accessibleSceneView"));
     screenview().setAccessibleName(text("accessibleBackdrop"));
     mainWindow_->setWindowTitle(appName_);
+    mainWindow_->setAccessibleName(appName_);
 }
 
 void AppDelegate::saveWindowFrame() {

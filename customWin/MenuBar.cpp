@@ -159,7 +159,11 @@ MenuItems buildMenuBar(QMenuBar& bar) {
 }
 
 void makeNSMenu(const MenuItems& m, const QString& appName) {
-    const auto title = [](QMenu* menu, const char* key) { menu->setTitle(text(key)); };
+    // A menu's title names its item in the bar; the open menu is named after it too.
+    const auto title = [](QMenu* menu, const char* key) {
+        menu->setTitle(text(key));
+        menu->setAccessibleName(menu->title());
+    };
     title(m.fileMenu, "makeMenuFile");
     title(m.editMenu, "makeMenuEdit");
     title(m.planetMenu, "makeMenuPlanet");

@@ -1,5 +1,6 @@
 #include "customWin/WindowMain.h"
 
+#include "customWin/Accessibility.h"
 #include "customWin/AppDelegate.h"
 #include "customWin/AppStyle.h"
 #include "customWin/mainWindow.h"
@@ -31,6 +32,7 @@ int runWindow(int argc, char** argv) {
     QApplication::setWindowIcon(artwork::applicationIcon());
     translations::install(application, QLocale());
     applyAppStyle(application);
+    announceWindowsAsWindows();
 
     AppDelegate delegate;
     QApplication::setApplicationName(delegate.readAppname());

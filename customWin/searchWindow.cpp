@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace orrery::window {
@@ -18,6 +19,8 @@ searchWindow::searchWindow(PlanetNames planets, QWidget* parent)
     field_->setPlaceholderText(text("searchFieldPlaceholder"));
     field_->setAccessibleName(text("searchWindowTitle"));
     field_->setClearButtonEnabled(true);
+    for (QToolButton* clear : field_->findChildren<QToolButton*>())
+        clear->setAccessibleName(text("searchClear"));
     matches_->setObjectName(QStringLiteral("searchMatches"));
     matches_->setAccessibleName(text("searchWindowTitle"));
     empty_->setObjectName(QStringLiteral("searchNoMatch"));

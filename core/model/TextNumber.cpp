@@ -1,5 +1,6 @@
 #include "core/model/TextNumber.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -56,6 +57,28 @@ std::size_t decimalNumberLength(std::string_view text) {
     return i;
 }
 
+// The power of ten of a decimal number's first significant digit (12.5 gives 1, 0.003
+// gives -3, 4e-2 gives -2), saturated far beyond any float; 0 for a number without one.
+long long decimalExponent(std::string_view number) {
+    const std::size_t mantissaEnd = std::min(number.find_first_of("eE"), number.size());
+    const std::string_view mantissa = number.substr(0, mantissaEnd);
+    const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
+    const std::size_t first = mantissa.find_first_of("123456789");
+    if (first == std::string_view::npos)
+        return 0;
+    long long exponent = first < point ? static_cast<long long>(point - first) - 1
+                                       : static_cast<long long>(point) - static_cast<long long>(first);
+    if (mantissaEnd < number.size()) {
+        constexpr long long limit = 1'000'000;
+        long long written = 0;
+        for (char c : number.substr(mantissaEnd + 1))
+            if (isDigit(c))
+                written = std::min(limit, written * 10 + (c - '0'));
+        exponent += number[mantissaEnd + 1] == '-' ? -written : written;
+    }
+    return exponent;
+}
+
 } // namespace
 
 float floatValue(std::string_view text) {
@@ -70,14 +93,11 @@ float floatValue(std::string_view text) {
         return 0.0f;
     float value = 0.0f;
     const auto [end, error] = std::from_chars(text.data(), text.data() + length, value);
-    if (error == std::errc::result_out_of_range) {
-        // from_chars leaves the value alone; tell overflow from underflow by the exponent.
-        const std::string_view number = text.substr(0, length);
-        const auto e = number.find_first_of("eE");
-        const bool tiny =
-            e != std::string_view::npos && e + 1 < number.size() && number[e + 1] == '-';
-        value = tiny ? 0.0f : std::numeric_limits<float>::infinity();
-    }
+    if (error == std::errc::result_out_of_range)
+        // from_chars leaves the value alone: the number is either too large or too small
+        // for single precision, which its order of magnitude tells.
+        value = decimalExponent(text.substr(0, length)) < 0 ? 0.0f
+                                                             : std::numeric_limits<float>::infinity();
     (void)end;
     return negative ? -value : value;
 }

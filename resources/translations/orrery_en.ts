@@ -860,6 +860,11 @@
         <extracomment>Shown when no planet's name contains the search text.</extracomment>
         <translation>No planet matches</translation>
     </message>
+    <message id="searchClear">
+        <source>Clear</source>
+        <extracomment>The button that empties the search field.</extracomment>
+        <translation>Clear</translation>
+    </message>
 </context>
 <context>
     <name>Window</name>

@@ -2,7 +2,8 @@
 """Starts the window and reads it back from the accessibility bus (AT-SPI).
 
 Run inside a session bus and an X server, as ctest does:
-    dbus-run-session -- xvfb-run -a python3 check_accessibility.py path/to/orrery
+    dbus-run-session -- xvfb-run -a -s "-noreset -screen 0 1280x1024x24" \
+        python3 check_accessibility.py path/to/orrery
 
 The program starts with a fresh settings folder. Once it is on the bus, the check:
   - finds the main window's controls by role and accessible name (menus, document size
@@ -108,7 +109,7 @@ def start_bus(runtime):
         fail("no X display; run inside xvfb-run -a")
     try:
         bus = Gio.bus_get_sync(Gio.BusType.SESSION, None)
-        private = {"XDG_RUNTIME_DIR": runtime, "DISPLAY": os.environ["DISPLAY"]}
+        private = {"XDG_RUNTIME_DIR": runtime}
         bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
                       "UpdateActivationEnvironment", GLib.Variant("(a{ss})", (private,)),
                       None, Gio.DBusCallFlags.NONE, 10000, None)
@@ -144,14 +145,13 @@ def main_window_problems(app):
         menus = [child.name for child in children(bars[0])]
         if menus != MENUS:
             problems.append(f"the menu bar lists {menus}, expected {MENUS}")
-    wanted = [(pyatspi.ROLE_TEXT, name) for name in SIZE_FIELDS]
-    wanted += [(pyatspi.ROLE_PUSH_BUTTON, name) for name in TITLE_BUTTONS]
-    wanted += [(pyatspi.ROLE_FILLER, name) for name in VIEWS]
-    for role, name in wanted:
+    wanted = [(pyatspi.ROLE_TEXT, "text field", name) for name in SIZE_FIELDS]
+    wanted += [(pyatspi.ROLE_PUSH_BUTTON, "push button", name) for name in TITLE_BUTTONS]
+    wanted += [(pyatspi.ROLE_FILLER, "view", name) for name in VIEWS]
+    for role, kind, name in wanted:
         found = len(find(app, role, name))
         if found != 1:
-            problems.append(f"expected one {pyatspi.Role(role).value_nick} named '{name}', "
-                            f"found {found}")
+            problems.append(f"expected one {kind} named '{name}', found {found}")
     return problems
 
 
@@ -194,7 +194,7 @@ def end(program):
 def main():
     if len(sys.argv) != 2:
         fail("usage: check_accessibility.py PATH_TO_ORRERY")
-    # ctest ends a test that overruns with SIGTERM: end the program on the way out.
+    # Ended from outside (SIGTERM), still end the program on the way out.
     signal.signal(signal.SIGTERM, lambda *_: sys.exit("AccessibilityBus: terminated"))
     with tempfile.TemporaryDirectory(prefix="orrery-a11y-") as home:
         runtime = os.path.join(home, "runtime")
@@ -202,13 +202,19 @@ def main():
         start_bus(runtime)
         env = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
                    XDG_DATA_HOME=os.path.join(home, "data"), XDG_RUNTIME_DIR=runtime)
-        program = subprocess.Popen([sys.argv[1]], env=env)
+        try:
+            program = subprocess.Popen([sys.argv[1]], env=env)
+        except OSError as error:
+            fail(f"cannot start {sys.argv[1]}: {error.strerror}")
         try:
             app = find_application(program)
             problems = wait_until(lambda: main_window_problems(app), TREE_TIMEOUT)
             if not problems:
                 problems = open_secondary_windows(app)
             problems += unnamed_controls(app)
+            if program.poll() is not None:
+                problems.append(f"the program ended with status {program.returncode} "
+                                "during the check")
         finally:
             end(program)
     if problems:

@@ -4,6 +4,7 @@
 
 #include <clocale>
 #include <cmath>
+#include <string>
 
 namespace orrery {
 namespace {
@@ -34,6 +35,13 @@ TEST(FloatValue, OverflowAndUnderflow) {
     EXPECT_TRUE(std::isinf(floatValue("1e60")));
     EXPECT_LT(floatValue("-1e60"), 0.0f);
     EXPECT_EQ(floatValue("1e-60"), 0.0f);
+    // Underflow is told by the value, whatever the form of the text.
+    EXPECT_EQ(floatValue("0." + std::string(45, '0') + "1"), 0.0f);
+    EXPECT_EQ(floatValue("-0.000000000000000000000000000000000000000000000001"), 0.0f);
+    EXPECT_EQ(floatValue("1000e-60"), 0.0f);
+    EXPECT_EQ(floatValue("0.0001e-50"), 0.0f);
+    EXPECT_TRUE(std::isinf(floatValue("0.001e60")));
+    EXPECT_TRUE(std::isinf(floatValue(std::string(50, '9'))));
 }
 
 TEST(IntegerValue, LeadingDigitsAndSaturation) {

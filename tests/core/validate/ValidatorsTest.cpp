@@ -56,6 +56,8 @@ INSTANTIATE_TEST_SUITE_P(
     Radius, ValidatorBounds,
     testing::Values(BoundCase{validatePosRadius, "0.1", true}, // 0.1 compared in single precision
                     BoundCase{validatePosRadius, "0.09", false},
+                    // Too small for single precision: zero, not infinity.
+                    BoundCase{validatePosRadius, "0.000000000000000000000000000000000000000000001", false},
                     BoundCase{validatePosRadius, "0.10000001", true},
                     BoundCase{validatePosRadius, "0.099999999", true}, // rounds to 0.1f
                     BoundCase{validatePosRadius, "0", false},
