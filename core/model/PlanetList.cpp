@@ -15,6 +15,13 @@ bool PlanetList::replace(std::size_t index, PlanetRecord record) {
     return true;
 }
 
+bool PlanetList::insert(std::size_t index, PlanetRecord record) {
+    if (index > records_.size())
+        return false;
+    records_.insert(records_.begin() + static_cast<std::ptrdiff_t>(index), std::move(record));
+    return true;
+}
+
 bool PlanetList::remove(std::size_t index) {
     if (index >= records_.size())
         return false;

@@ -21,6 +21,8 @@ public:
     auto end() const { return records_.end(); }
 
     void append(PlanetRecord record);
+    // At an index from 0 to size(); a larger index changes nothing and answers false.
+    bool insert(std::size_t index, PlanetRecord record);
     // Out-of-range indices change nothing and answer false.
     bool replace(std::size_t index, PlanetRecord record);
     bool remove(std::size_t index);

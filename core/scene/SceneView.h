@@ -32,6 +32,30 @@ struct SceneControllerCalls {
         updateTextPostion;
 };
 
+// A planet node as it stood when captured, so that an undo can put it back exactly: the
+// node itself (an edit replaces nodes rather than changing them) with the two things a
+// drag and a visibility change alter in place.
+struct CapturedNode {
+    std::shared_ptr<SceneNode> node;
+    Vec3 position;
+    bool hidden = false;
+};
+
+// The camera as recorded and placed, and the light, for putting them back.
+struct CameraState {
+    double xFov = 45.0;
+    double yFov = 45.0;
+    Vec3 position;
+    bool orthographic = true;
+    bool zRange = true;
+    friend bool operator==(const CameraState&, const CameraState&) = default;
+};
+struct LightState {
+    Vec3 position;
+    Color color = kWhite;
+    friend bool operator==(const LightState&, const LightState&) = default;
+};
+
 // The planet scene and everything the main window's 3D view does with it, without any
 // toolkit: planets as sphere nodes found again by name, the camera and the light, the
 // projection of the view, hit testing, and dragging planets with the mouse. Texts are
@@ -70,6 +94,15 @@ public:
     // Replaces the light by a new one of this colour at the old light's position.
     void updateLightColor(Color color);
     Vec3 getLightPosition() const;
+
+    // Snapshots for undo (SceneViewSnapshot.cpp). Restoring a planet replaces whatever
+    // nodes carry its name now by the captured ones, in their captured order.
+    std::vector<CapturedNode> capturePlanet(std::string_view tsecs) const;
+    void restorePlanet(std::string_view tsecs, const std::vector<CapturedNode>& nodes);
+    CameraState cameraState() const;
+    void setCameraState(const CameraState& state);
+    LightState lightState() const;
+    void setLightState(const LightState& state);
 
     // The view's size in points, which sets the horizontal field of view.
     void setViewSize(double width, double height);
