@@ -4,6 +4,7 @@
 #include "core/app/ScreenFit.h"
 #include "core/model/TextNumber.h"
 #include "core/settings/SettingsReaders.h"
+#include "customWin/PlanetCreationSheet.h"
 #include "customWin/Strings.h"
 #include "customWin/gradationWindow.h"
 #include "customWin/headerView.h"
@@ -53,6 +54,9 @@ AppDelegate::AppDelegate()
 }
 
 AppDelegate::~AppDelegate() {
+    // The creation sheet's contents live outside any window between openings.
+    if (accessoryView3_ != nullptr && accessoryView3_->parent() == nullptr)
+        delete accessoryView3_;
     delete gradationWindow_;
     delete searchWindow_;
     delete mainWindow_;
@@ -125,6 +129,7 @@ void AppDelegate::makeNSControls() {
     menus_ = buildMenuBar(mainWindow_->content().header().menuBar());
     makeNSMenu(menus_, appName_);
     connectMenuActions();
+    buildPlanetPanel();
     mainWindow_->content().header().setTexts(text("documentSizeLabel"), text("documentSizeTimes"));
     QLineEdit& width = mainWindow_->content().header().widthField1();
     QLineEdit& height = mainWindow_->content().header().heightField1();

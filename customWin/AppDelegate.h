@@ -1,20 +1,31 @@
 #pragma once
 
 #include "core/app/AppState.h"
+#include "core/edit/SystemEditor.h"
 #include "core/settings/Settings.h"
 #include "core/settings/SettingsReaders.h"
 #include "customWin/MenuBar.h"
+#include "customWin/tableView1/CellDelegates.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QRect>
 #include <QString>
+
+#include <memory>
+#include <optional>
 
 class QLineEdit;
 
 namespace orrery::window {
 
 class ImageButton;
+class PlanetAddSheet;
+class PlanetPanel;
+class PlanetTable;
+class PlanetTableModel;
 class TitleLabel;
+class accessoryView3;
 class gradationWindow;
 class mainView;
 class mainWindow;
@@ -69,6 +80,27 @@ public:
     void openGradationWindow();
     void openSearchWindow();
 
+    // Planets (AppDelegatePlanets.cpp): the table's handlers, the scene's reports, creating
+    // and deleting, showing all, export's availability and undo.
+    PlanetTable& tableView1() { return *tableView1_; }
+    SystemEditor& editor() { return *editor_; }
+    void textChange(PlanetColumn column, const QString& text);
+    void stateChange1_02(int state);
+    void indexChange(PlanetColumn column, int index);
+    void colorChange1_09(const Color& color);
+    void hitText1Selected(const QString& tsecs);
+    void updateTextPostion(const QString& tsecs, const QString& x, const QString& y,
+                           const QString& z);
+    void openPlanetCreation();
+    void create3Clicked();
+    void cancel3Clicked();
+    void deletPlanet1();
+    void deletPlanet2();
+    void all1Clicked(bool on);
+    void validateExport();
+    void undoClicked();
+    void redoClicked();
+
 signals:
     // A planet was chosen in the find window: its table row is to be selected.
     void planetChosen(const QString& tsecs);
@@ -82,6 +114,15 @@ private:
     void registerWindowObservers();
     void buildTitleBar();
     void showDocumentSize();
+
+    // Planets.
+    void buildPlanetPanel();
+    PlanetPanel& planetPanel();
+    void afterCellEdit(CellOutcome outcome);
+    void showStatus();
+    void planetDeletionSelection();
+    void closeCreationSheet();
+    void showHistoryStep(const EditStep* step);
 
     // Menus.
     void connectMenuActions();
@@ -118,6 +159,12 @@ private:
     ImageButton* minButton0_ = nullptr;
     ImageButton* maxButton0_ = nullptr;
     ImageButton* fullButton0_ = nullptr;
+    std::unique_ptr<SystemEditor> editor_;
+    CellHandlers cellHandlers_;
+    PlanetTableModel* planetModel_ = nullptr;
+    PlanetTable* tableView1_ = nullptr;
+    QPointer<accessoryView3> accessoryView3_;
+    QPointer<PlanetAddSheet> planetAddSheet_;
     gradationWindow* gradationWindow_ = nullptr;
     searchWindow* searchWindow_ = nullptr;
 };

@@ -70,10 +70,13 @@ void AppDelegate::connectMenuActions() {
         if (!selected.isEmpty())
             searchWindow_->setSearchText(selected);
     });
-    // Documents, planets and Preferences are offered once their commands are in place.
-    for (QAction* later : {m.fileNew, m.fileOpen, m.fileSave, m.fileSaveAs, m.fileExport,
-                           m.filePrintsetup, m.filePrint, m.planetCreate, m.planetDelete,
-                           m.appPreferences})
+    connect(m.editUndo, &QAction::triggered, this, &AppDelegate::undoClicked);
+    connect(m.editRedo, &QAction::triggered, this, &AppDelegate::redoClicked);
+    connect(m.planetCreate, &QAction::triggered, this, &AppDelegate::openPlanetCreation);
+    connect(m.planetDelete, &QAction::triggered, this, &AppDelegate::deletPlanet1);
+    // Documents and Preferences are offered once their commands are in place.
+    for (QAction* later : {m.fileNew, m.fileOpen, m.fileSave, m.fileSaveAs, m.filePrintsetup,
+                           m.filePrint, m.appPreferences})
         later->setEnabled(false);
 }
 

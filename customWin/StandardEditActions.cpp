@@ -47,8 +47,6 @@ QString capitalised(const QString& text) {
 } // namespace
 
 void connectStandardEditActions(const MenuItems& m) {
-    onFocusedField(m.editUndo, [](QLineEdit& field) { field.undo(); });
-    onFocusedField(m.editRedo, [](QLineEdit& field) { field.redo(); });
     onFocusedField(m.editCut, [](QLineEdit& field) { field.cut(); });
     onFocusedField(m.editPaste, [](QLineEdit& field) { field.paste(); });
     // A text field holds plain text only, so pasting it matches the field's style.

@@ -1,5 +1,6 @@
 #include "customWin/footView.h"
 
+#include "customWin/PlanetPanel.h"
 #include "customWin/mainView.h"
 
 #include <QPainter>
@@ -7,9 +8,8 @@
 
 namespace orrery::window {
 
-footView::footView(QWidget* parent) : QWidget(parent), panel_(new QWidget(this)) {
+footView::footView(QWidget* parent) : QWidget(parent), panel_(new PlanetPanel(this)) {
     setObjectName(QStringLiteral("footView"));
-    panel_->setObjectName(QStringLiteral("planetPanel"));
 }
 
 void footView::resizeEvent(QResizeEvent*) {

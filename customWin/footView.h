@@ -4,6 +4,8 @@
 
 namespace orrery::window {
 
+class PlanetPanel;
+
 // Below the document area: the planet panel, which holds the planet table and its buttons,
 // and the window's bottom border.
 class footView : public QWidget {
@@ -14,14 +16,14 @@ public:
     static constexpr int kBottomBorder = 22;
     static constexpr int kPanelGap = 8;
 
-    QWidget& planetPanel() { return *panel_; }
+    PlanetPanel& planetPanel() { return *panel_; }
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QWidget* panel_;
+    PlanetPanel* panel_;
 };
 
 } // namespace orrery::window

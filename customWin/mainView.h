@@ -43,7 +43,7 @@ public:
     explicit mainView(QWidget* parent);
 
     static constexpr int kTitleStrip = 28;
-    static constexpr int kHeaderHeight = 40;
+    static constexpr int kHeaderHeight = 36;
     static constexpr int kSideMargin = 20;
 
     BackgroundView10& backview10() { return *background_; }

@@ -2,19 +2,11 @@
 
 #include "core/styles/AxisCross.h"
 #include "core/styles/StyleImages.h"
+#include "customWin/ColorConversion.h"
 
 #include <QPainter>
 
 namespace orrery::window {
-namespace {
-
-QColor toQColor(const Color& colour) {
-    return QColor::fromRgbF(static_cast<float>(colour.red), static_cast<float>(colour.green),
-                            static_cast<float>(colour.blue), static_cast<float>(colour.alpha));
-}
-
-} // namespace
-
 screenView::screenView(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("screenView"));
     setAttribute(Qt::WA_OpaquePaintEvent);

@@ -2,6 +2,7 @@
 
 #include "core/export/ExportFormat.h"
 #include "core/model/PlanetList.h"
+#include "core/settings/SettingsReaders.h"
 
 #include <string_view>
 #include <vector>
@@ -15,8 +16,6 @@ namespace orrery {
 // "2" (JPEG there) starts on GIF, and empty or "0" starts on PNG. The two readers
 // disagree on purpose. A value that names no row (text, 7, -3) also starts on PNG.
 ExportFormat defaultExportFormat(std::string_view storedFormat);
-
-inline constexpr int kDefaultCompression = 85;
 
 // The compression slider's start value 0 to 100 from Preferences position 3: empty or
 // "0" means 85; other values are clamped to the slider's range.

@@ -8,6 +8,7 @@
 #include "customWin/WindowMain.h"
 #include "customWin/mainWindow.h"
 #include "customWin/sceneView.h"
+#include "customWin/tableView1/PlanetTable.h"
 #include "resources/translations/Translations.h"
 
 #include <QApplication>
@@ -18,6 +19,7 @@
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolButton>
 
 #include <cstdio>
 
@@ -42,6 +44,23 @@ void save(const QRect& area, const QString& path) {
 void saveWindow(QWidget& window, const QString& path, int below = 0) {
     settle();
     save(window.frameGeometry().adjusted(0, 0, 0, below), path);
+}
+
+// A planet made as a person makes one: the create button, a name, the sheet's button; then
+// its cells typed into.
+void createPlanet(AppDelegate& app, const QString& name,
+                  const std::vector<std::pair<orrery::window::PlanetColumn, QString>>& cells) {
+    // A planet's identity is the second it was made in: one a second keeps them apart.
+    QTest::qWait(1000);
+    app.openPlanetCreation();
+    QTest::qWait(50);
+    QLineEdit* field = app.window().findChild<QLineEdit*>(QStringLiteral("nameField3"));
+    QTest::keyClicks(field, name);
+    QTest::keyClick(field, Qt::Key_Return);
+    QTest::qWait(50);
+    app.tableView1().selectRow(app.state().planetArray.size() - 1);
+    for (const auto& [column, value] : cells)
+        app.textChange(column, value);
 }
 
 void openSystem(AppDelegate& app, const QString& package) {
@@ -76,6 +95,28 @@ int main(int argc, char** argv) {
     app.applicationWillFinishLaunching();
     QWidget& window = app.window();
     saveWindow(window, out.filePath(QStringLiteral("first-start.png")));
+
+    using orrery::window::PlanetColumn;
+    createPlanet(app, QStringLiteral("Sun"), {{PlanetColumn::x, "-260"}, {PlanetColumn::radius, "120"}});
+    app.indexChange(PlanetColumn::surface, 5);
+    createPlanet(app, QStringLiteral("Earth"), {{PlanetColumn::x, "40"}, {PlanetColumn::radius, "30"}});
+    app.indexChange(PlanetColumn::surface, 3);
+    createPlanet(app, QStringLiteral("Moon"), {{PlanetColumn::x, "95"}, {PlanetColumn::y, "30"}, {PlanetColumn::radius, "9"}});
+    app.indexChange(PlanetColumn::style, 6);
+    createPlanet(app, QStringLiteral("Mars"), {{PlanetColumn::x, "210"}, {PlanetColumn::y, "-60"}, {PlanetColumn::radius, "22"}});
+    app.indexChange(PlanetColumn::style, 12);
+    app.tableView1().selectRow(1);
+    saveWindow(window, out.filePath(QStringLiteral("planet-table.png")));
+    auto* styleButton = window.findChild<QToolButton*>(QStringLiteral("styleMetalPopupButton1_03"));
+    styleButton->click();
+    saveWindow(window, out.filePath(QStringLiteral("style-menu.png")), 500);
+    if (QWidget* popup = QApplication::activePopupWidget())
+        popup->close();
+    auto* surfaceButton = window.findChild<QToolButton*>(QStringLiteral("surfaceMetalPopupButton1_04"));
+    surfaceButton->click();
+    saveWindow(window, out.filePath(QStringLiteral("surface-menu.png")), 500);
+    if (QWidget* popup = QApplication::activePopupWidget())
+        popup->close();
 
     openSystem(app, QString::fromLocal8Bit(argv[2]));
     app.setSceneBackground(3);

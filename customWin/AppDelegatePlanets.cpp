@@ -1,0 +1,251 @@
+// Planets: the table's cell handlers, the scene's click and drag reports, creating and
+// deleting planets, showing them all, whether there is anything to export, and undo.
+#include "core/export/ExportChoices.h"
+#include "core/model/Totalsecs.h"
+#include "core/settings/SettingsReaders.h"
+#include "core/validate/Validators.h"
+#include "customWin/AppDelegate.h"
+#include "customWin/PlanetCreationSheet.h"
+#include "customWin/PlanetPanel.h"
+#include "customWin/Sheet.h"
+#include "customWin/Strings.h"
+#include "customWin/footView.h"
+#include "customWin/mainView.h"
+#include "customWin/mainWindow.h"
+#include "customWin/sceneView.h"
+#include "customWin/searchWindow.h"
+#include "customWin/tableView1/PlanetTable.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+
+namespace orrery::window {
+namespace {
+
+constexpr int kStatusMs = 3000;
+constexpr int kSheetContentsMs = 500;
+
+QLineEdit* focusedField() {
+    return qobject_cast<QLineEdit*>(QApplication::focusWidget());
+}
+
+} // namespace
+
+PlanetPanel& AppDelegate::planetPanel() {
+    return mainWindow_->content().foot().planetPanel();
+}
+
+void AppDelegate::buildPlanetPanel() {
+    editor_ = std::make_unique<SystemEditor>(state_.planetArray, sceneview().scene());
+    cellHandlers_ = {
+        [this](PlanetColumn column, const QString& typed) { textChange(column, typed); },
+        [this](int on) { stateChange1_02(on); },
+        [this](PlanetColumn column, int index) { indexChange(column, index); },
+        [this](const Color& color) { colorChange1_09(color); }};
+    planetModel_ = new PlanetTableModel(state_.planetArray, this);
+    tableView1_ = new PlanetTable(*planetModel_, cellHandlers_, &planetPanel());
+    planetPanel().setTable(tableView1_);
+    accessoryView3_ = new accessoryView3();
+
+    PlanetPanel& panel = planetPanel();
+    connect(&panel.createPlanetButton1(), &QPushButton::clicked, this,
+            &AppDelegate::openPlanetCreation);
+    connect(&panel.deletePlanetButton1(), &QPushButton::clicked, this, &AppDelegate::deletPlanet1);
+    connect(&panel.allButton1(), &QCheckBox::clicked, this, &AppDelegate::all1Clicked);
+    connect(tableView1_, &PlanetTable::selectionChangedRows, this,
+            &AppDelegate::planetDeletionSelection);
+    connect(planetModel_, &PlanetTableModel::rowCountChanged, this, [this](int count) {
+        planetPanel().allButton1().setEnabled(count >= 1);
+        validateExport();
+    });
+    connect(&sceneview(), &sceneView::planetHit, this, &AppDelegate::hitText1Selected);
+    connect(&sceneview(), &sceneView::planetMoved, this, &AppDelegate::updateTextPostion);
+    connect(this, &AppDelegate::planetChosen, this,
+            [this](const QString& tsecs) { hitText1Selected(tsecs); });
+
+    QLineEdit& name = accessoryView3_->nameField3();
+    connect(&name, &QLineEdit::textChanged, this, [this](const QString& typed) {
+        accessoryView3_->createButton3().setEnabled(validateCreatePlanet(typed.toStdString()));
+    });
+    connect(&accessoryView3_->createButton3(), &QPushButton::clicked, this,
+            &AppDelegate::create3Clicked);
+    connect(&accessoryView3_->cancelButton3(), &QPushButton::clicked, this,
+            &AppDelegate::cancel3Clicked);
+
+    panel.allButton1().setEnabled(false);
+    panel.deletePlanetButton1().setEnabled(false);
+    menus_.planetDelete->setEnabled(false);
+    validateExport();
+}
+
+void AppDelegate::textChange(PlanetColumn column, const QString& typed) {
+    const PlanetKey key = kPlanetColumns[static_cast<std::size_t>(column)].key;
+    afterCellEdit(editor_->editText(tableView1_->selectedRow(), key, typed.toStdString()));
+}
+
+void AppDelegate::stateChange1_02(int on) {
+    afterCellEdit(editor_->editState(tableView1_->selectedRow(), on));
+    validateExport();
+}
+
+void AppDelegate::indexChange(PlanetColumn column, int index) {
+    const PlanetKey key = kPlanetColumns[static_cast<std::size_t>(column)].key;
+    afterCellEdit(editor_->editIndex(tableView1_->selectedRow(), key, index));
+}
+
+void AppDelegate::colorChange1_09(const Color& color) {
+    afterCellEdit(editor_->editColor(tableView1_->selectedRow(), color));
+}
+
+void AppDelegate::afterCellEdit(CellOutcome outcome) {
+    if (outcome == CellOutcome::refused) {
+        showStatus();
+        return;
+    }
+    if (outcome != CellOutcome::stored)
+        return;
+    planetModel_->rowChanged(static_cast<int>(*tableView1_->selectedRow()));
+    // An edit leaves the row selected but takes the delete button away until the
+    // selection changes again, so that a Return too many cannot delete the planet.
+    planetPanel().deletePlanetButton1().setEnabled(false);
+    menus_.planetDelete->setEnabled(false);
+}
+
+// Every refusal shows the status line for three seconds of its own; an earlier timer is
+// not cancelled, so the line hides three seconds after the first of quick refusals.
+void AppDelegate::showStatus() {
+    planetPanel().statusLabel1().show();
+    QTimer::singleShot(kStatusMs, this, [this] { planetPanel().statusLabel1().hide(); });
+}
+
+void AppDelegate::hitText1Selected(const QString& tsecs) {
+    tableView1_->selectRow(editor_->planetClicked(tsecs.toStdString()));
+}
+
+void AppDelegate::updateTextPostion(const QString& tsecs, const QString& x, const QString& y,
+                                    const QString& z) {
+    const std::optional<std::size_t> row = editor_->planetDragged(
+        tsecs.toStdString(), x.toStdString(), y.toStdString(), z.toStdString());
+    if (!row)
+        return;
+    planetModel_->rowChanged(static_cast<int>(*row));
+    tableView1_->selectRow(row);
+}
+
+void AppDelegate::planetDeletionSelection() {
+    const bool selected = tableView1_->selectedRow().has_value();
+    planetPanel().deletePlanetButton1().setEnabled(selected);
+    menus_.planetDelete->setEnabled(selected);
+}
+
+void AppDelegate::validateExport() {
+    const bool shown = canExport(state_.planetArray);
+    menus_.fileExport->setEnabled(shown);
+}
+
+void AppDelegate::openPlanetCreation() {
+    saveMenuStatus();
+    accessoryView3_->nameField3().clear();
+    accessoryView3_->createButton3().setEnabled(false);
+    planetAddSheet_ = new PlanetAddSheet(*accessoryView3_, *mainWindow_);
+    connect(planetAddSheet_, &QDialog::rejected, this, &AppDelegate::cancel3Clicked);
+    planetAddSheet_->open();
+    placeAsSheet(*planetAddSheet_, *mainWindow_);
+    accessoryView3_->nameField3().setFocus();
+    state_.isCreatePlanetOpen = true;
+}
+
+void AppDelegate::closeCreationSheet() {
+    if (planetAddSheet_ == nullptr)
+        return;
+    PlanetAddSheet* sheet = planetAddSheet_;
+    planetAddSheet_ = nullptr;
+    disconnect(sheet, &QDialog::rejected, this, &AppDelegate::cancel3Clicked);
+    QTimer::singleShot(kSheetContentsMs, sheet, [sheet] { sheet->releaseContents(); });
+    sheet->hide();
+    state_.isCreatePlanetOpen = false;
+    loadMenuStatus();
+}
+
+void AppDelegate::create3Clicked() {
+    const QString name = accessoryView3_->nameField3().text();
+    if (!validateCreatePlanet(name.toStdString()))
+        return;
+    const std::size_t row =
+        editor_->createPlanet(std::to_string(Totalsecs()), name.toStdString());
+    planetModel_->rowInserted(static_cast<int>(row));
+    closeCreationSheet();
+}
+
+void AppDelegate::cancel3Clicked() {
+    closeCreationSheet();
+}
+
+void AppDelegate::deletPlanet1() {
+    const std::optional<std::size_t> row = tableView1_->selectedRow();
+    if (!row)
+        return;
+    if (generalSwitch(settings_.checkboxArray, 3)) {
+        deletPlanet2();
+        return;
+    }
+    saveMenuStatus();
+    const QString name = QString::fromStdString(state_.planetArray.at(*row).name);
+    askOnSheet(*mainWindow_, textWith("deletePlanetMsg", name), text("deletePlanetInformative"),
+               text("deletePlanetYes"), text("deletePlanetNo"), [this](int response) {
+                   if (response == kFirstButton)
+                       deletPlanet2();
+                   else
+                       loadMenuStatus();
+               });
+}
+
+void AppDelegate::deletPlanet2() {
+    const std::optional<std::size_t> row = tableView1_->selectedRow();
+    if (!editor_->deletePlanet(row))
+        return;
+    planetModel_->rowRemoved(static_cast<int>(*row));
+    planetPanel().deletePlanetButton1().setEnabled(false);
+    loadMenuStatus();
+}
+
+void AppDelegate::all1Clicked(bool on) {
+    editor_->showAll(on);
+    planetModel_->allRowsChanged();
+    validateExport();
+}
+
+void AppDelegate::undoClicked() {
+    if (QLineEdit* field = focusedField(); field != nullptr && field->isUndoAvailable()) {
+        field->undo();
+        return;
+    }
+    showHistoryStep(editor_->undo());
+}
+
+void AppDelegate::redoClicked() {
+    if (QLineEdit* field = focusedField(); field != nullptr && field->isRedoAvailable()) {
+        field->redo();
+        return;
+    }
+    showHistoryStep(editor_->redo());
+}
+
+// After an undo or a redo: the table shows the records again, the same row selected when
+// there still is one.
+void AppDelegate::showHistoryStep(const EditStep* step) {
+    if (step == nullptr)
+        return;
+    const std::optional<std::size_t> selected = tableView1_->selectedRow();
+    planetModel_->reload();
+    if (selected && *selected < state_.planetArray.size())
+        tableView1_->selectRow(selected);
+    validateExport();
+}
+
+} // namespace orrery::window

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QLineEdit>
+
+namespace orrery::window {
+
+// A text cell's field (textField1_01, textField1_05 to textField1_08). Every editing
+// command (Return, Enter, Tab, Backtab, Escape, the arrows and other movement keys) hands
+// the current text to the cell's handler and is swallowed: Tab commits, it does not move
+// the focus, and the field stays where it is. Typing alone reports nothing.
+class textField1 : public QLineEdit {
+    Q_OBJECT
+public:
+    explicit textField1(QWidget* parent);
+
+signals:
+    void commandIssued(const QString& text);
+
+protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+} // namespace orrery::window
