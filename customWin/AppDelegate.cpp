@@ -130,6 +130,7 @@ void AppDelegate::makeNSControls() {
     makeNSMenu(menus_, appName_);
     connectMenuActions();
     buildPlanetPanel();
+    buildPopovers();
     mainWindow_->content().header().setTexts(text("documentSizeLabel"), text("documentSizeTimes"));
     QLineEdit& width = mainWindow_->content().header().widthField1();
     QLineEdit& height = mainWindow_->content().header().heightField1();

@@ -19,7 +19,9 @@ class QLineEdit;
 
 namespace orrery::window {
 
+class CameraPopover;
 class ImageButton;
+class LightPopover;
 class PlanetAddSheet;
 class PlanetPanel;
 class PlanetTable;
@@ -100,6 +102,15 @@ public:
     void validateExport();
     void undoClicked();
     void redoClicked();
+    // The table shows the planet list again after it changed as a whole.
+    void reloadPlanets();
+
+    // Camera and light (AppDelegateCamera.cpp).
+    void show1bClicked();
+    void show1Clicked();
+    void setCameraDefault();
+    void setLightDefault();
+    void colorChanged4Clicked(const Color& color);
 
 signals:
     // A planet was chosen in the find window: its table row is to be selected.
@@ -123,6 +134,15 @@ private:
     void planetDeletionSelection();
     void closeCreationSheet();
     void showHistoryStep(const EditStep* step);
+
+    // Camera and light.
+    void buildPopovers();
+    void showCameraSettings();
+    void showLightSettings();
+    void cameraFieldEdited(const QLineEdit& edited);
+    void lightFieldEdited(const QLineEdit& edited);
+    void applyCameraSwitches();
+    int editSessionFor(const QLineEdit& field);
 
     // Menus.
     void connectMenuActions();
@@ -165,6 +185,10 @@ private:
     PlanetTable* tableView1_ = nullptr;
     QPointer<accessoryView3> accessoryView3_;
     QPointer<PlanetAddSheet> planetAddSheet_;
+    CameraPopover* popOver5_ = nullptr;
+    LightPopover* popOver4_ = nullptr;
+    const QLineEdit* lastEditedField_ = nullptr;
+    int editSession_ = 0;
     gradationWindow* gradationWindow_ = nullptr;
     searchWindow* searchWindow_ = nullptr;
 };

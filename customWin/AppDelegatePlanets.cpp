@@ -170,6 +170,8 @@ void AppDelegate::closeCreationSheet() {
     sheet->hide();
     state_.isCreatePlanetOpen = false;
     loadMenuStatus();
+    // What the sheet changed counts over what the menus were before it.
+    validateExport();
 }
 
 void AppDelegate::create3Clicked() {
@@ -212,11 +214,18 @@ void AppDelegate::deletPlanet2() {
     planetModel_->rowRemoved(static_cast<int>(*row));
     planetPanel().deletePlanetButton1().setEnabled(false);
     loadMenuStatus();
+    planetDeletionSelection();
+    validateExport();
 }
 
 void AppDelegate::all1Clicked(bool on) {
     editor_->showAll(on);
     planetModel_->allRowsChanged();
+    validateExport();
+}
+
+void AppDelegate::reloadPlanets() {
+    planetModel_->reload();
     validateExport();
 }
 
@@ -241,6 +250,13 @@ void AppDelegate::redoClicked() {
 void AppDelegate::showHistoryStep(const EditStep* step) {
     if (step == nullptr)
         return;
+    if (step->camera && state_.popover5shown)
+        showCameraSettings();
+    if (step->light) {
+        state_.lightColor = sceneview().scene().lightState().color;
+        if (state_.popover4shown)
+            showLightSettings();
+    }
     const std::optional<std::size_t> selected = tableView1_->selectedRow();
     planetModel_->reload();
     if (selected && *selected < state_.planetArray.size())

@@ -4,6 +4,7 @@
 #include "core/model/TextNumber.h"
 #include "customWin/AppDelegate.h"
 #include "customWin/Background/BackgroundView10.h"
+#include "customWin/FieldValidity.h"
 #include "customWin/ImageButton.h"
 #include "customWin/Strings.h"
 #include "customWin/TitleLabel.h"
@@ -138,8 +139,8 @@ void AppDelegate::showDocumentSize() {
     header.widthField1().setText(QString::fromStdString(formatFixed(area.width() - kDocumentFrame, 0)));
     header.heightField1().setText(
         QString::fromStdString(formatFixed(area.height() - kDocumentFrame, 0)));
-    headerView::markValid(header.widthField1(), true);
-    headerView::markValid(header.heightField1(), true);
+    markValid(header.widthField1(), true);
+    markValid(header.heightField1(), true);
 }
 
 void AppDelegate::sizeFieldReturn(QLineEdit& field) {
@@ -147,7 +148,7 @@ void AppDelegate::sizeFieldReturn(QLineEdit& field) {
     const DocumentAxis axis =
         &field == &header.widthField1() ? DocumentAxis::width : DocumentAxis::height;
     const bool valid = checkDocumentSide(field.text().toStdString(), axis) == SideCheck::valid;
-    headerView::markValid(field, valid);
+    markValid(field, valid);
     if (valid)
         setTopFrame();
 }

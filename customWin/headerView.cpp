@@ -1,5 +1,7 @@
 #include "customWin/headerView.h"
 
+#include "customWin/FieldValidity.h"
+
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -21,7 +23,7 @@ QLineEdit* makeSizeField(const char* name, QWidget* parent) {
         "QLineEdit { background: #f4f5f8; border: 1px solid #5b6785; border-radius: 5px;"
         " padding: 0 4px; selection-background-color: #3d6fd6; }"
         "QLineEdit:focus { border: 1px solid #7aa2ff; }"));
-    headerView::markValid(*field, true);
+    markValid(*field, true);
     return field;
 }
 
@@ -50,12 +52,6 @@ void headerView::setTexts(const QString& sizeLabel, const QString& times) {
     sizeLabel_->setText(sizeLabel);
     times_->setText(times);
     resizeEvent(nullptr);
-}
-
-void headerView::markValid(QLineEdit& field, bool valid) {
-    QPalette colours = field.palette();
-    colours.setColor(QPalette::Text, valid ? Qt::black : Qt::red);
-    field.setPalette(colours);
 }
 
 void headerView::resizeEvent(QResizeEvent*) {

@@ -20,9 +20,6 @@ public:
     // The texts of the size label and of the sign between the two fields.
     void setTexts(const QString& sizeLabel, const QString& times);
 
-    // Red for a size that cannot be used, black for one that can; the text is kept.
-    static void markValid(QLineEdit& field, bool valid);
-
 protected:
     void resizeEvent(QResizeEvent* event) override;
 

@@ -12,5 +12,7 @@ std::unique_ptr<QObject> makeStartupTest();
 std::unique_ptr<QObject> makeChromeTest();
 std::unique_ptr<QObject> makeMenuTest();
 std::unique_ptr<QObject> makeSceneTest();
+std::unique_ptr<QObject> makePlanetsTest();
+std::unique_ptr<QObject> makeCameraLightTest();
 
 } // namespace orrery::window::testing

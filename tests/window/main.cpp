@@ -17,10 +17,12 @@ int main(int argc, char** argv) {
         {"Startup", makeStartupTest},
         {"Chrome", makeChromeTest},
         {"Menu", makeMenuTest},
-        {"Scene", makeSceneTest}};
+        {"Scene", makeSceneTest},
+        {"Planets", makePlanetsTest},
+        {"CameraLight", makeCameraLightTest}};
     const auto suite = argc > 1 ? suites.find(argv[1]) : suites.end();
     if (suite == suites.end()) {
-        std::fprintf(stderr, "usage: %s Startup|Chrome|Menu|Scene [Qt Test options]\n", argv[0]);
+        std::fprintf(stderr, "usage: %s SUITE [Qt Test options]\n", argv[0]);
         return 2;
     }
     orrery::window::useSceneSurfaceFormat();

@@ -41,9 +41,13 @@ void save(const QRect& area, const QString& path) {
         std::printf("%s\n", qPrintable(path));
 }
 
+// The window and whatever pops up over it.
 void saveWindow(QWidget& window, const QString& path, int below = 0) {
     settle();
-    save(window.frameGeometry().adjusted(0, 0, 0, below), path);
+    QRect area = window.frameGeometry().adjusted(0, 0, 0, below);
+    if (const QWidget* popup = QApplication::activePopupWidget())
+        area |= popup->frameGeometry().adjusted(-8, -8, 8, 8);
+    save(area, path);
 }
 
 // A planet made as a person makes one: the create button, a name, the sheet's button; then
@@ -117,6 +121,13 @@ int main(int argc, char** argv) {
     saveWindow(window, out.filePath(QStringLiteral("surface-menu.png")), 500);
     if (QWidget* popup = QApplication::activePopupWidget())
         popup->close();
+
+    app.show1bClicked();
+    saveWindow(window, out.filePath(QStringLiteral("camera-popover.png")), 200);
+    app.show1bClicked();
+    app.show1Clicked();
+    saveWindow(window, out.filePath(QStringLiteral("light-popover.png")), 200);
+    app.show1Clicked();
 
     openSystem(app, QString::fromLocal8Bit(argv[2]));
     app.setSceneBackground(3);

@@ -1,0 +1,117 @@
+#include "customWin/CameraPopover.h"
+#include "customWin/PlanetPanel.h"
+#include "customWin/mainWindow.h"
+#include "customWin/sceneView.h"
+#include "tests/window/WindowTestSuites.h"
+#include "tests/window/WindowTestSupport.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+namespace orrery::window::testing {
+namespace {
+
+bool isRed(const QLineEdit& field) {
+    return field.palette().color(QPalette::Text) == QColor(Qt::red);
+}
+
+void retype(QLineEdit& field, const char* text) {
+    field.setFocus();
+    field.selectAll();
+    QTest::keyClicks(&field, QLatin1String(text));
+}
+
+} // namespace
+
+class CameraLightTest : public QObject {
+    Q_OBJECT
+private slots:
+    void init() {
+        app_ = std::make_unique<FreshStart>();
+        app_->start();
+    }
+    void cleanup() { app_.reset(); }
+
+    void theCameraRecordsWhatItIsGivenButOnlyMoves() {
+        mainWindow& window = app_->delegate().window();
+        QTest::mouseClick(&child<QPushButton>(window, "cameraButton5"), Qt::LeftButton);
+        auto& popover = child<CameraPopover>(window, "popOver5");
+        QTRY_VERIFY(popover.isVisible());
+        QCOMPARE(popover.xfovField5().text(), QStringLiteral("45.0"));
+        QCOMPARE(popover.zField5().text(), QStringLiteral("500.000000"));
+        QVERIFY(popover.orthoButton5().isChecked() && popover.adjustZButton5().isChecked());
+
+        QTest::mouseClick(&popover.orthoButton5(), Qt::LeftButton);
+        QCOMPARE(settings().back(), std::string("1"));
+        QCOMPARE(settings()[5], std::string("0"));
+
+        retype(popover.zField5(), "0");
+        QVERIFY(isRed(popover.zField5()));
+        QTest::mouseClick(&popover.adjustZButton5(), Qt::LeftButton);
+        QCOMPARE(settings()[4], std::string("500.000000"));
+        QCOMPARE(settings()[6], std::string("1"));
+        retype(popover.zField5(), "500");
+        QVERIFY(!isRed(popover.zField5()));
+        retype(popover.xfovField5(), "95");
+        QVERIFY(isRed(popover.xfovField5()));
+        QCOMPARE(settings()[0], std::string("45.0"));
+
+        const QImage before = app_->delegate().sceneview().grabFramebuffer();
+        retype(popover.xfovField5(), "60");
+        QCOMPARE(settings()[0], std::string("60.0"));
+        QCOMPARE(app_->delegate().sceneview().grabFramebuffer(), before);
+        // Typing into one field is one step to undo.
+        window.setFocus();
+        app_->delegate().menus().editUndo->trigger();
+        QCOMPARE(settings()[0], std::string("45.0"));
+    }
+
+    void theLightDefaultShowsFiftyUntilThePopoverOpensAgain() {
+        mainWindow& window = app_->delegate().window();
+        auto& button = child<QPushButton>(window, "lightButton4");
+        QTest::mouseClick(&button, Qt::LeftButton);
+        auto& popover = child<LightPopover>(window, "popOver4");
+        QTRY_VERIFY(popover.isVisible());
+        retype(popover.xField4(), "12");
+        QCOMPARE(app_->delegate().sceneview().scene().getLightPosition().x, 12.0);
+        QTest::mouseClick(&popover.defaultButton4(), Qt::LeftButton);
+        QCOMPARE(popover.zField4().text(), QStringLiteral("50.000000"));
+        QCOMPARE(app_->delegate().sceneview().scene().getLightPosition(), (Vec3{0, 0, 100}));
+        QTest::mouseClick(&button, Qt::LeftButton); // closes
+        QTest::mouseClick(&button, Qt::LeftButton); // opens
+        QTRY_VERIFY(popover.isVisible());
+        QCOMPARE(popover.zField4().text(), QStringLiteral("100.000000"));
+    }
+
+    void aPopoverClosedByAClickOutsideNeedsTwoClicksToOpenAgain() {
+        auto& button = child<QPushButton>(app_->delegate().window(), "cameraButton5");
+        auto& popover = child<CameraPopover>(app_->delegate().window(), "popOver5");
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QTRY_VERIFY(popover.isVisible());
+        popover.close(); // as a click elsewhere closes it
+        QVERIFY(app_->delegate().state().popover5shown);
+        app_->delegate().show1bClicked();
+        QVERIFY(!popover.isVisible());
+        QVERIFY(!app_->delegate().state().popover5shown);
+        app_->delegate().show1bClicked();
+        QVERIFY(popover.isVisible());
+    }
+
+private:
+    std::vector<std::string> settings() {
+        return app_->delegate().sceneview().scene().getCameraSettings();
+    }
+
+    std::unique_ptr<FreshStart> app_;
+};
+
+std::unique_ptr<QObject> makeCameraLightTest() {
+    return std::make_unique<CameraLightTest>();
+}
+
+} // namespace orrery::window::testing
+
+#include "CameraLightTest.moc"
