@@ -860,6 +860,11 @@
         <extracomment>Shown when no planet's name contains the search text.</extracomment>
         <translation>No planet matches</translation>
     </message>
+    <message id="accessiblePlanetTable">
+        <source>Planets</source>
+        <extracomment>Name of the planet table for screen readers.</extracomment>
+        <translation>Planets</translation>
+    </message>
     <message id="searchClear">
         <source>Clear</source>
         <extracomment>The button that empties the search field.</extracomment>
