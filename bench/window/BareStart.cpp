@@ -33,7 +33,8 @@ protected:
         report("ms", millisecondsSince(start_));
         report("renderer", glString(gl, GL_RENDERER));
         report("version", glString(gl, GL_VERSION));
-        QCoreApplication::exit(0);
+        // The first frame may come before the event loop runs, when exit would be ignored.
+        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     }
 
 private:

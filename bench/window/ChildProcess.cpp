@@ -52,6 +52,8 @@ std::optional<Figures> runChild(const std::string& mode, const std::string& argu
         close(channel[0]);
         close(channel[1]);
         setenv("XDG_DATA_HOME", dataHome, 1);
+        setenv("XDG_RUNTIME_DIR", dataHome, 0); // where there is none, Qt warns
+
         execv("/proc/self/exe", arguments);
         _exit(127);
     }

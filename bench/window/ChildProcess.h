@@ -14,8 +14,8 @@ namespace orrery::bench {
 using Clock = std::chrono::steady_clock;
 using Figures = std::map<std::string, std::string>;
 
-// Runs one child with a fresh, empty XDG_DATA_HOME (removed afterwards) and collects what it
-// printed; none when the child failed.
+// Runs one child with a fresh, empty XDG_DATA_HOME (removed afterwards; also the runtime
+// folder when there is none) and collects what it printed; none when the child failed.
 std::optional<Figures> runChild(const std::string& mode, const std::string& argument = {});
 
 // The START argument of a child.

@@ -25,32 +25,38 @@ constexpr int kWarmUpMoves = 3;
 constexpr double kDraggedZ = 200.0;
 constexpr const char* kDraggedPlanet = "1424700000";
 
-// The planets strewn through the camera's view from 500 to 3000 units away, three in four
-// styled and surfaced, the rest plain; the dragged one in front of them all at the middle.
-void populate(SceneView& scene, int planets) {
+// The planets strewn through the camera's view from 800 to 4000 units away, all of the
+// default radius, three in four styled and surfaced, the rest plain; the dragged one in front
+// of them all at the middle. Returns how many times over the planets' discs would cover the
+// picture, about 0.45 for 1,000 planets.
+double populate(SceneView& scene, int planets) {
+    constexpr double kRadius = 24.0;
     std::mt19937 random(7);
-    std::uniform_real_distribution<double> across(-0.9, 0.9);
-    std::uniform_real_distribution<double> away(500.0, 3000.0);
-    std::uniform_real_distribution<double> radius(8.0, 40.0);
+    std::uniform_real_distribution<double> across(-0.95, 0.95);
+    std::uniform_real_distribution<double> away(800.0, 4000.0);
     const double halfHeightPerUnit = std::tan(std::numbers::pi / 8); // 45 degrees vertically
+    const double pixelsPerUnit = scene.viewHeight() / 2 / halfHeightPerUnit; // at distance 1
     const double aspect = scene.viewWidth() / scene.viewHeight();
     const double cameraZ = scene.cameraNode().position().z;
+    const std::string radius = std::to_string(kRadius);
     const Color blue{0.2, 0.4, 0.9, 1.0};
+    double discs = 0.0;
     for (int i = 1; i < planets; ++i) {
         const double distance = away(random);
         const double halfHeight = distance * halfHeightPerUnit;
         const std::string x = std::to_string(across(random) * halfHeight * aspect);
         const std::string y = std::to_string(across(random) * halfHeight);
         const std::string z = std::to_string(cameraZ - distance);
-        const std::string r = std::to_string(radius(random));
         const std::string tsecs = std::to_string(1424700000 + i);
         if (i % 4 == 0)
-            scene.createPlanet(tsecs, x, y, z, r);
+            scene.createPlanet(tsecs, x, y, z, radius);
         else
             scene.createPlanet2(tsecs, blue, i % 3 == 0 ? 0 : 1 + i % (catalogue::kRowCount - 1),
-                                1 + i % kSurfaceCount, x, y, z, r);
+                                1 + i % kSurfaceCount, x, y, z, radius);
+        discs += std::pow(kRadius * pixelsPerUnit / distance, 2) * std::numbers::pi;
     }
-    scene.createPlanet2(kDraggedPlanet, blue, 5, 3, "0", "0", std::to_string(kDraggedZ), "30");
+    scene.createPlanet2(kDraggedPlanet, blue, 5, 3, "0", "0", std::to_string(kDraggedZ), radius);
+    return discs / (scene.viewWidth() * scene.viewHeight());
 }
 
 // The window around the document, at the screen's top-left corner so that all of it shows.
@@ -80,10 +86,9 @@ bool reportPlanetDrag(window::sceneView& view, int planets) {
     QSignalSpy moved(&view, &window::sceneView::planetMoved);
     if (!placeWindow(view, painted))
         return false;
-    report("document", std::to_string(view.width()) + "x" + std::to_string(view.height()));
     report("fits", view.screen()->geometry().contains(view.window()->frameGeometry()) ? 1 : 0);
 
-    populate(view.scene(), planets);
+    report("coverage", populate(view.scene(), planets));
     if (!painted.wait(kFrameTimeoutMs))
         return false;
     const Vec3 centre = view.scene().projectPoint({0, 0, kDraggedZ});

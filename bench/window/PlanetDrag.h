@@ -10,8 +10,9 @@ namespace orrery::bench {
 // scene with `planets` planets through the scene operations, and drags the one in front with
 // mouse events for about two seconds, each move waiting for its frame. Reports "fps",
 // "frames", "worst_ms" (the slowest move to frame), "moves" (the planet's reported
-// positions), "document" and "fits" (whether the window lies on the screen). False when a
-// frame never came.
+// positions), "coverage" (how many times over the planets would paint the picture),
+// and "fits" (whether the window lies on the screen). False when the document area did not
+// get its size or a frame never came.
 bool reportPlanetDrag(window::sceneView& view, int planets);
 
 } // namespace orrery::bench

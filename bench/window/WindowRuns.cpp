@@ -28,7 +28,7 @@ void attach(window::sceneView& view) {
             &view, &window::sceneView::framePainted, &view,
             [] {
                 report("ms", millisecondsSince(run.start));
-                QCoreApplication::exit(0);
+                QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
             },
             Qt::SingleShotConnection);
         return;

@@ -2,6 +2,8 @@
 
 #include "core/model/TextNumber.h"
 
+#include <algorithm>
+
 namespace orrery {
 
 DocumentSize packageDocumentSize(const OpenedProject& project) {
@@ -17,7 +19,7 @@ long packageBackground(const OpenedProject& project) {
     return static_cast<long>(integerValue(project.settings[setting::background]));
 }
 
-void loadPackageScene(SceneView& view, const OpenedProject& project) {
+void applyPackageToScene(SceneView& view, const OpenedProject& project) {
     const auto& s = project.settings;
     if (project.checks.camera) {
         const std::size_t c = setting::cameraXFov;
@@ -34,8 +36,28 @@ void loadPackageScene(SceneView& view, const OpenedProject& project) {
         view.createPlanet2(planet.tsecs, planet.color, integerValue(planet.styleindex),
                            integerValue(planet.surfaceindex), planet.xvalue, planet.yvalue,
                            planet.zvalue, planet.radius);
+}
+
+void loadPackageScene(SceneView& view, const OpenedProject& project) {
+    applyPackageToScene(view, project);
     const DocumentSize size = packageDocumentSize(project);
     view.setViewSize(size.width, size.height);
+}
+
+ProjectDocument projectDocument(const SceneView& view, const PlanetList& planets,
+                                std::string width, std::string height, long background,
+                                Color lightColor) {
+    ProjectDocument document;
+    document.documentWidth = std::move(width);
+    document.documentHeight = std::move(height);
+    document.background = background;
+    const std::vector<std::string> camera = view.getCameraSettings();
+    std::copy(camera.begin(), camera.end(), document.cameraSettings.begin());
+    const Vec3 light = view.getLightPosition();
+    document.lightPosition = {light.x, light.y, light.z};
+    document.lightColor = lightColor;
+    document.planets = planets.records();
+    return document;
 }
 
 } // namespace orrery

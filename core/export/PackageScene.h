@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/model/PlanetList.h"
 #include "core/package/ProjectDocument.h"
 #include "core/scene/SceneView.h"
 
@@ -22,10 +23,18 @@ DocumentSize packageDocumentSize(const OpenedProject& project);
 // The background when it passes its check, else the fresh window's transparent 0.
 long packageBackground(const OpenedProject& project);
 
-// Sets up a fresh scene view as opening the package does: the camera when all five camera
-// values pass, the light position when all three pass, the light colour, and one node per
-// planet built with createPlanet2. Opening does not hide planets whose state is "0"; they
-// show until their check box is next switched, and the export draws them too.
+// What opening a package does to a scene: the camera when all five camera values pass, the
+// light position when all three pass, the light colour, and one node per planet built with
+// createPlanet2. Opening does not hide planets whose state is "0"; they show until their
+// check box is next switched, and the export draws them too.
+void applyPackageToScene(SceneView& view, const OpenedProject& project);
+// The same on a fresh scene view, which also takes the package's document size.
 void loadPackageScene(SceneView& view, const OpenedProject& project);
+
+// What saving writes for a system: the planets, the document size fields' texts, the
+// background, the scene's camera settings and light position, and the light colour.
+ProjectDocument projectDocument(const SceneView& view, const PlanetList& planets,
+                                std::string width, std::string height, long background,
+                                Color lightColor);
 
 } // namespace orrery

@@ -24,16 +24,23 @@ std::string systemError() {
 // half-written package, and in the destination's own folder, so that moving it into
 // place is a rename on one file system (a staging folder elsewhere, such as in the
 // application folder, could not be renamed across file systems).
-fs::path freshSibling(const fs::path& folder, const char* purpose) {
+fs::path freshSibling(const fs::path& folder, const std::string& purpose) {
     static thread_local std::mt19937_64 random{std::random_device{}()};
     char suffix[17];
     std::snprintf(suffix, sizeof suffix, "%016llx", static_cast<unsigned long long>(random()));
     return folder / (std::string(".orrery-") + purpose + "-" + suffix);
 }
 
-bool makeStagingFolder(const fs::path& parent, fs::path& staging, std::string& error) {
+// A staging folder names the package it is for, so that the next save to that place can
+// clear away what an interrupted save left there, and nothing else.
+std::string stagingPurpose(const fs::path& target) {
+    return "save-" + target.filename().string();
+}
+
+bool makeStagingFolder(const fs::path& parent, const fs::path& target, fs::path& staging,
+                       std::string& error) {
     for (int attempt = 0; attempt < 16; ++attempt) {
-        staging = freshSibling(parent, "save");
+        staging = freshSibling(parent, stagingPurpose(target));
         if (::mkdir(staging.c_str(), 0777) == 0)
             return true;
         if (errno != EEXIST) {
@@ -137,6 +144,17 @@ bool moveIntoPlace(const fs::path& staging, const fs::path& destination,
     return replaceByTwoRenames(staging, destination, error);
 }
 
+void removeLeftoverStaging(const fs::path& parent, const fs::path& target) {
+    const std::string prefix = ".orrery-" + stagingPurpose(target) + "-";
+    std::error_code failure;
+    for (fs::directory_iterator entry(parent, failure), end; !failure && entry != end;
+         entry.increment(failure)) {
+        const std::string name = entry->path().filename().string();
+        if (name.size() == prefix.size() + 16 && name.rfind(prefix, 0) == 0)
+            removeQuietly(entry->path());
+    }
+}
+
 } // namespace
 
 bool replaceFolder(const fs::path& destination, const std::vector<FileToWrite>& files,
@@ -159,8 +177,9 @@ bool replaceFolder(const fs::path& destination, const std::vector<FileToWrite>& 
         error = parent.string() + " is not a folder";
         return false;
     }
+    removeLeftoverStaging(parent, target);
     fs::path staging;
-    if (!makeStagingFolder(parent, staging, error))
+    if (!makeStagingFolder(parent, target, staging, error))
         return false;
     const bool replaced = writeStaging(staging, files, error) &&
                           (!hooks.afterStaging || hooks.afterStaging(staging, error)) &&

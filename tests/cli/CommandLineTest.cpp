@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 namespace orrery::testing {
 namespace {
 
@@ -17,7 +19,6 @@ TEST(CommandLine, HelpAndVersion) {
 
 TEST(CommandLine, BadUsageIsOneLineAndStatusOne) {
     const std::vector<std::vector<std::string>> mistakes = {
-        {}, // this build has no window to open without a verb
         {"--frobnicate"},
         {"info"},
         {"convert", "a.json"},
@@ -32,7 +33,19 @@ TEST(CommandLine, BadUsageIsOneLineAndStatusOne) {
         EXPECT_EQ(run.errLines(), 1) << run.err;
         EXPECT_EQ(run.err.rfind("orrery: ", 0), 0u) << run.err;
     }
-    EXPECT_NE(runOrrery({}).err.find("--help"), std::string::npos);
+}
+
+TEST(CommandLine, WithoutADisplayTheWindowSaysSoInOneLine) {
+    const char* display = std::getenv("DISPLAY");
+    const std::string saved = display != nullptr ? display : "";
+    ::unsetenv("DISPLAY");
+    ::unsetenv("WAYLAND_DISPLAY");
+    const Outcome run = runOrrery({});
+    if (!saved.empty())
+        ::setenv("DISPLAY", saved.c_str(), 1);
+    EXPECT_EQ(run.status, 1) << run.err;
+    EXPECT_EQ(run.errLines(), 1) << run.err;
+    EXPECT_NE(run.err.find("--help"), std::string::npos) << run.err;
 }
 
 } // namespace

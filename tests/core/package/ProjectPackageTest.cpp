@@ -130,6 +130,13 @@ TEST_F(ProjectPackageDeathTest, SaveKilledAfterStagingLeavesTheOldPackageIntact)
         },
         ::testing::ExitedWithCode(3), "");
     expectPackageHolds(package, oldDocument);
+    // The next save to that place clears what the killed one left; a neighbour's stays.
+    const fs::path neighbours = package.parent_path() / ".orrery-save-Other.kvx-0123456789abcdef";
+    fs::create_directory(neighbours);
+    save(newDocument);
+    expectPackageHolds(package, newDocument);
+    fs::remove(neighbours);
+    expectOnlyThePackage();
 }
 
 TEST_F(ProjectPackage, SaveErrorsNameThePathAndTheProblem) {
