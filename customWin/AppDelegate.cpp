@@ -131,6 +131,7 @@ void AppDelegate::makeNSControls() {
     connectMenuActions();
     buildPlanetPanel();
     buildPopovers();
+    connectDocumentActions();
     mainWindow_->content().header().setTexts(text("documentSizeLabel"), text("documentSizeTimes"));
     QLineEdit& width = mainWindow_->content().header().widthField1();
     QLineEdit& height = mainWindow_->content().header().heightField1();

@@ -2,6 +2,7 @@
 
 #include "core/app/AppState.h"
 #include "core/edit/SystemEditor.h"
+#include "core/package/ProjectDocument.h"
 #include "core/settings/Settings.h"
 #include "core/settings/SettingsReaders.h"
 #include "customWin/MenuBar.h"
@@ -11,7 +12,9 @@
 #include <QPointer>
 #include <QRect>
 #include <QString>
+#include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -105,6 +108,15 @@ public:
     // The table shows the planet list again after it changed as a whole.
     void reloadPlanets();
 
+    // Documents (AppDelegateDocuments.cpp). `then` runs once a save succeeded.
+    void createNewSystem1();
+    void createNewSystem2();
+    void saveProject1(std::function<void()> then = {});
+    void saveAsProject1(std::function<void()> then = {});
+    void openProject1();
+    void openFiles(const QStringList& paths);
+    bool hasUnsavedChanges() const;
+
     // Camera and light (AppDelegateCamera.cpp).
     void show1bClicked();
     void show1Clicked();
@@ -135,7 +147,22 @@ private:
     void closeCreationSheet();
     void showHistoryStep(const EditStep* step);
 
+    // Documents.
+    void connectDocumentActions();
+    void noteChange();
+    void markSaved();
+    void updateTitle();
+    void removeAllPlanets();
+    void writePackage(const QString& path, bool saveAs, std::function<void()> then);
+    void openProject2(const QString& path);
+    void openProject3(const QString& path, const OpenedProject& project);
+    void showOpenedCameraAndLight(const OpenedProject& project);
+    void showFailure(const QString& message, const std::string& reason);
+    void askToSaveChanges(std::function<void()> then);
+    bool mayClose();
+
     // Camera and light.
+    bool markCameraFields();
     void buildPopovers();
     void showCameraSettings();
     void showLightSettings();
@@ -188,6 +215,11 @@ private:
     CameraPopover* popOver5_ = nullptr;
     LightPopover* popOver4_ = nullptr;
     const QLineEdit* lastEditedField_ = nullptr;
+    QString titleBase_; // "name: package" once saved or opened, else empty
+    std::uint64_t savedHistoryRevision_ = 0;
+    std::uint64_t otherChanges_ = 0; // background and document size
+    std::uint64_t savedOtherChanges_ = 0;
+    bool closingConfirmed_ = false;
     int editSession_ = 0;
     gradationWindow* gradationWindow_ = nullptr;
     searchWindow* searchWindow_ = nullptr;

@@ -132,15 +132,19 @@ void AppDelegate::showLightSettings() {
     light.colorWell4().setColor(state_.lightColor);
 }
 
-void AppDelegate::cameraFieldEdited(const QLineEdit& edited) {
+bool AppDelegate::markCameraFields() {
     CameraPopover& camera = *popOver5_;
-    const bool valid = checkAll({{&camera.xfovField5(), validateFov},
-                                 {&camera.yfovField5(), validateFov},
-                                 {&camera.xField5(), validatePosNegFloat},
-                                 {&camera.yField5(), validatePosNegFloat},
-                                 {&camera.zField5(), validatePosOnlyFloat}});
-    if (!valid)
+    return checkAll({{&camera.xfovField5(), validateFov},
+                     {&camera.yfovField5(), validateFov},
+                     {&camera.xField5(), validatePosNegFloat},
+                     {&camera.yField5(), validatePosNegFloat},
+                     {&camera.zField5(), validatePosOnlyFloat}});
+}
+
+void AppDelegate::cameraFieldEdited(const QLineEdit& edited) {
+    if (!markCameraFields())
         return;
+    CameraPopover& camera = *popOver5_;
     editor_->setCamera(number(camera.xfovField5()), number(camera.yfovField5()),
                        number(camera.xField5()), number(camera.yField5()),
                        number(camera.zField5()), camera.orthoButton5().isChecked(),

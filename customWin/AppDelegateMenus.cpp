@@ -74,9 +74,8 @@ void AppDelegate::connectMenuActions() {
     connect(m.editRedo, &QAction::triggered, this, &AppDelegate::redoClicked);
     connect(m.planetCreate, &QAction::triggered, this, &AppDelegate::openPlanetCreation);
     connect(m.planetDelete, &QAction::triggered, this, &AppDelegate::deletPlanet1);
-    // Documents and Preferences are offered once their commands are in place.
-    for (QAction* later : {m.fileNew, m.fileOpen, m.fileSave, m.fileSaveAs, m.filePrintsetup,
-                           m.filePrint, m.appPreferences})
+    // Printing and Preferences are offered once their commands are in place.
+    for (QAction* later : {m.filePrintsetup, m.filePrint, m.appPreferences})
         later->setEnabled(false);
 }
 
@@ -90,7 +89,10 @@ void AppDelegate::saveMenuStatus() {
         items[i]->setEnabled(now[static_cast<std::size_t>(i)]);
 }
 
+// Before any sheet has saved the items' states there is nothing to restore.
 void AppDelegate::loadMenuStatus() {
+    if (state_.menuArray.empty())
+        return;
     const QList<QAction*> items = menus_.guardedItems();
     const std::vector<bool> states =
         orrery::loadMenuStatus(state_.menuArray, static_cast<std::size_t>(items.size()));
@@ -116,6 +118,7 @@ void AppDelegate::setSceneBackground(long index) {
     state_.currentBackground = index;
     sceneColorAllOff();
     menus_.sceneColorItems[static_cast<std::size_t>(index)]->setChecked(true);
+    noteChange();
 }
 
 void AppDelegate::sceneColorAllOff() {
@@ -129,7 +132,7 @@ void AppDelegate::sceneColorAllOff() {
 
 void AppDelegate::userguideHelp() {
     saveMenuStatus();
-    askOnSheet(*mainWindow_, text("access userguide"), QString(), text("yes"), text("cancel"),
+    askOnSheet(*mainWindow_, text("access userguide"), QString(), {text("yes"), text("cancel")},
                [this](int response) {
                    if (response == kFirstButton)
                        QDesktopServices::openUrl(userGuideAddress());
@@ -139,7 +142,7 @@ void AppDelegate::userguideHelp() {
 
 void AppDelegate::supportHelp() {
     saveMenuStatus();
-    askOnSheet(*mainWindow_, text("access website"), QString(), text("yes"), text("cancel"),
+    askOnSheet(*mainWindow_, text("access website"), QString(), {text("yes"), text("cancel")},
                [this](int response) {
                    if (response == kFirstButton)
                        QDesktopServices::openUrl(supportPageAddress());

@@ -199,7 +199,7 @@ void AppDelegate::deletPlanet1() {
     saveMenuStatus();
     const QString name = QString::fromStdString(state_.planetArray.at(*row).name);
     askOnSheet(*mainWindow_, textWith("deletePlanetMsg", name), text("deletePlanetInformative"),
-               text("deletePlanetYes"), text("deletePlanetNo"), [this](int response) {
+               {text("deletePlanetYes"), text("deletePlanetNo")}, [this](int response) {
                    if (response == kFirstButton)
                        deletPlanet2();
                    else

@@ -160,6 +160,7 @@ void AppDelegate::setTopFrame() {
          static_cast<int>(integerValue(header.heightField1().text().toStdString()))});
     mainWindow_->resize(window.width, window.height);
     refreshViews();
+    noteChange();
 }
 
 void AppDelegate::closeWindowClicked() {

@@ -2,6 +2,8 @@
 
 #include "resources/Artwork.h"
 
+#include <QDialogButtonBox>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -23,24 +25,54 @@ void placeAsSheet(QDialog& sheet, const QWidget& window) {
     sheet.move(frame.left() + (frame.width() - sheet.width()) / 2, frame.top() + kSheetDrop);
 }
 
+namespace {
+
+// The box lays itself out on a grid with its buttons in the last row: the accessory takes
+// that row, in the text's column, and the buttons move one row down.
+void insertAboveButtons(QMessageBox& box, QWidget* accessory) {
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    auto* buttons = box.findChild<QDialogButtonBox*>();
+    const int at = grid != nullptr && buttons != nullptr ? grid->indexOf(buttons) : -1;
+    if (at < 0)
+        return;
+    int row = 0, column = 0, rows = 0, columns = 0;
+    grid->getItemPosition(at, &row, &column, &rows, &columns);
+    grid->removeWidget(buttons);
+    accessory->setParent(&box);
+    grid->addWidget(accessory, row, 1, 1, grid->columnCount() - 1);
+    grid->addWidget(buttons, row + 1, column, rows, columns);
+}
+
+} // namespace
+
 void askOnSheet(QWidget& window, const QString& message, const QString& informative,
-                const QString& first, const QString& second, std::function<void(int)> answered) {
+                const QStringList& buttons, std::function<void(int)> answered,
+                QWidget* accessory) {
     auto* box = new QMessageBox(QMessageBox::Question, QString(), message, QMessageBox::NoButton,
                                 &window);
     box->setObjectName(QStringLiteral("questionSheet"));
     makeSheet(*box);
     box->setInformativeText(informative);
-    QPushButton* firstButton = box->addButton(first, QMessageBox::AcceptRole);
-    QPushButton* secondButton = box->addButton(second, QMessageBox::RejectRole);
-    firstButton->setObjectName(QStringLiteral("sheetButton1000"));
-    secondButton->setObjectName(QStringLiteral("sheetButton1001"));
-    box->setDefaultButton(firstButton);
-    box->setEscapeButton(secondButton);
+    QList<QPushButton*> pushButtons;
+    for (qsizetype i = 0; i < buttons.size(); ++i) {
+        const auto role = i == 0                    ? QMessageBox::AcceptRole
+                          : i == buttons.size() - 1 ? QMessageBox::RejectRole
+                                                    : QMessageBox::DestructiveRole;
+        QPushButton* button = box->addButton(buttons[i], role);
+        button->setObjectName(QStringLiteral("sheetButton%1").arg(kFirstButton + i));
+        pushButtons.append(button);
+    }
+    box->setDefaultButton(pushButtons.first());
+    box->setEscapeButton(pushButtons.last());
+    if (accessory != nullptr)
+        insertAboveButtons(*box, accessory);
     box->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(box, &QMessageBox::finished, box,
-                     [box, firstButton, answered = std::move(answered)] {
-                         answered(box->clickedButton() == firstButton ? kFirstButton
-                                                                      : kSecondButton);
+                     [box, pushButtons, answered = std::move(answered)] {
+                         const auto index = pushButtons.indexOf(
+                             qobject_cast<QPushButton*>(box->clickedButton()));
+                         answered(kFirstButton +
+                                  static_cast<int>(index < 0 ? pushButtons.size() - 1 : index));
                      });
     box->open();
     placeAsSheet(*box, window);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -22,9 +23,12 @@ void makeSheet(QDialog& sheet);
 // Moves an opened sheet to its place on the window.
 void placeAsSheet(QDialog& sheet, const QWidget& window);
 
-// A question with two buttons; `answered` gets kFirstButton or kSecondButton once, when the
-// sheet ends. The buttons are named "sheetButton1000" and "sheetButton1001".
+// A question with its buttons, the first the default and the last the one Escape presses;
+// `answered` gets 1000 for the first button, 1001 for the second and so on, once, when the
+// sheet ends. The buttons are named "sheetButton1000", "sheetButton1001", ... An accessory
+// widget, if any, goes between the texts and the buttons.
 void askOnSheet(QWidget& window, const QString& message, const QString& informative,
-                const QString& first, const QString& second, std::function<void(int)> answered);
+                const QStringList& buttons, std::function<void(int)> answered,
+                QWidget* accessory = nullptr);
 
 } // namespace orrery::window

@@ -51,6 +51,7 @@ int runWindow(int argc, char** argv) {
     QObject::connect(&delegate.window(), &mainWindow::closing, &application, &QApplication::quit,
                      Qt::QueuedConnection);
     delegate.applicationWillFinishLaunching();
+    delegate.openFiles(QCoreApplication::arguments().mid(1));
     return QApplication::exec();
 }
 

@@ -5,6 +5,8 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileInfo>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -45,6 +47,7 @@ mainWindow::mainWindow() : content_(new mainView(this)) {
     liveResize_.setInterval(kLiveResizePauseMs);
     connect(&liveResize_, &QTimer::timeout, this, &mainWindow::liveResizeEnded);
     qApp->installEventFilter(this);
+    setAcceptDrops(true);
 }
 
 void mainWindow::resizeEvent(QResizeEvent* event) {
@@ -55,8 +58,39 @@ void mainWindow::resizeEvent(QResizeEvent* event) {
 }
 
 void mainWindow::closeEvent(QCloseEvent* event) {
+    if (closeGuard_ && !closeGuard_()) {
+        event->ignore();
+        return;
+    }
     emit closing();
     event->accept();
+}
+
+namespace {
+
+QStringList packagesIn(const QMimeData* data) {
+    QStringList paths;
+    for (const QUrl& url : data->urls()) {
+        const QFileInfo dropped(url.toLocalFile());
+        if (url.isLocalFile() && dropped.isDir() && dropped.suffix() == QLatin1String("kvx"))
+            paths.append(dropped.absoluteFilePath());
+    }
+    return paths;
+}
+
+} // namespace
+
+void mainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!packagesIn(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void mainWindow::dropEvent(QDropEvent* event) {
+    const QStringList paths = packagesIn(event->mimeData());
+    if (paths.isEmpty())
+        return;
+    event->acceptProposedAction();
+    emit packagesDropped(paths);
 }
 
 void mainWindow::changeEvent(QEvent* event) {

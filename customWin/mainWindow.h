@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QStringList>
 #include <QTimer>
 #include <QWidget>
+
+#include <functional>
 
 namespace orrery::window {
 
@@ -16,6 +19,8 @@ public:
     mainWindow();
 
     mainView& content() { return *content_; }
+    // Asked before the window closes; false keeps it open (the guard asks the person).
+    void setCloseGuard(std::function<bool()> guard) { closeGuard_ = std::move(guard); }
 
 signals:
     void resized();
@@ -24,12 +29,16 @@ signals:
     void closing();
     void enteredFullScreen();
     void leftFullScreen();
+    // Project packages (folders named *.kvx) dropped on the window.
+    void packagesDropped(const QStringList& paths);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     Qt::Edges edgesAt(const QPoint& windowPoint) const;
@@ -39,6 +48,7 @@ private:
     QTimer liveResize_;
     Qt::Edges cursorEdges_;
     bool wasFullScreen_ = false;
+    std::function<bool()> closeGuard_;
 };
 
 } // namespace orrery::window

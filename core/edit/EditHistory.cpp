@@ -43,14 +43,20 @@ void fold(EditStep& older, EditStep&& newer) {
 
 } // namespace
 
+void EditHistory::touch() {
+    ++revision_;
+    if (changed_)
+        changed_();
+}
+
 void EditHistory::record(EditStep step) {
     steps_.erase(steps_.begin() + static_cast<std::ptrdiff_t>(done_), steps_.end());
-    if (step.mergeKey != 0 && !steps_.empty() && steps_.back().mergeKey == step.mergeKey) {
+    if (step.mergeKey != 0 && !steps_.empty() && steps_.back().mergeKey == step.mergeKey)
         fold(steps_.back(), std::move(step));
-        return;
-    }
-    steps_.push_back(std::move(step));
+    else
+        steps_.push_back(std::move(step));
     done_ = steps_.size();
+    touch();
 }
 
 std::optional<EditKind> EditHistory::undoKind() const {
@@ -73,6 +79,7 @@ const EditStep* EditHistory::undo(PlanetList& planets, SceneView& scene) {
         scene.setCameraState(step.camera->first);
     if (step.light)
         scene.setLightState(step.light->first);
+    touch();
     return &step;
 }
 
@@ -88,12 +95,14 @@ const EditStep* EditHistory::redo(PlanetList& planets, SceneView& scene) {
         scene.setCameraState(step.camera->second);
     if (step.light)
         scene.setLightState(step.light->second);
+    touch();
     return &step;
 }
 
 void EditHistory::clear() {
     steps_.clear();
     done_ = 0;
+    touch();
 }
 
 } // namespace orrery

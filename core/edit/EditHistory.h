@@ -4,6 +4,8 @@
 #include "core/scene/SceneView.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -56,9 +58,20 @@ public:
     const EditStep* redo(PlanetList& planets, SceneView& scene);
     void clear();
 
+    // Grows with every change of the history (a step recorded, undone or redone, or the
+    // history cleared), so that the window can tell whether the system changed since it
+    // was last saved.
+    std::uint64_t revision() const { return revision_; }
+    // Called after every such change.
+    void setChangeHandler(std::function<void()> handler) { changed_ = std::move(handler); }
+
 private:
     std::vector<EditStep> steps_;
     std::size_t done_ = 0; // steps_[0, done_) are done
+    std::uint64_t revision_ = 0;
+    std::function<void()> changed_;
+
+    void touch();
 };
 
 } // namespace orrery

@@ -865,6 +865,31 @@
         <extracomment>Name of the planet table for screen readers.</extracomment>
         <translation>Planets</translation>
     </message>
+    <message id="saveChangesMsg">
+        <source>Do you want to save the changes you made to “%1”?</source>
+        <extracomment>Question before unsaved changes would be lost; %1 is the system's name.</extracomment>
+        <translation>Do you want to save the changes you made to “%1”?</translation>
+    </message>
+    <message id="saveChangesInformative">
+        <source>Your changes will be lost if you don’t save them.</source>
+        <extracomment>Informative text of the unsaved-changes question.</extracomment>
+        <translation>Your changes will be lost if you don’t save them.</translation>
+    </message>
+    <message id="saveChangesSave">
+        <source>Save</source>
+        <extracomment>First button of the unsaved-changes question.</extracomment>
+        <translation>Save</translation>
+    </message>
+    <message id="saveChangesDiscard">
+        <source>Don’t Save</source>
+        <extracomment>Second button of the unsaved-changes question.</extracomment>
+        <translation>Don’t Save</translation>
+    </message>
+    <message id="saveChangesCancel">
+        <source>Cancel</source>
+        <extracomment>Last button of the unsaved-changes question.</extracomment>
+        <translation>Cancel</translation>
+    </message>
     <message id="searchClear">
         <source>Clear</source>
         <extracomment>The button that empties the search field.</extracomment>

@@ -1,8 +1,6 @@
 // Pictures of the real window in the states a person sees, for the user guide and for
 // looking at the window as a user would. Run on an X server with a window manager:
 //   tests/window/with-desktop build/release/tools/screenshots/orrery-screenshots OUT PACKAGE
-#include "core/export/PackageScene.h"
-#include "core/package/ProjectPackage.h"
 #include "customWin/AppDelegate.h"
 #include "customWin/AppStyle.h"
 #include "customWin/WindowMain.h"
@@ -67,16 +65,12 @@ void createPlanet(AppDelegate& app, const QString& name,
         app.textChange(column, value);
 }
 
+// Opens the package as a person would, by handing it to the window.
 void openSystem(AppDelegate& app, const QString& package) {
-    orrery::OpenedProject project;
-    std::string error;
-    if (!orrery::readProjectPackage(package.toStdString(), project, error)) {
-        std::fprintf(stderr, "%s\n", error.c_str());
-        return;
-    }
-    orrery::loadPackageScene(app.sceneview().scene(), project);
-    for (const orrery::PlanetRecord& planet : project.planets)
-        app.state().planetArray.append(planet);
+    app.createNewSystem2();
+    app.openFiles({package});
+    if (!QTest::qWaitFor([&] { return app.state().projectpath == package.toStdString(); }, 20000))
+        std::fprintf(stderr, "%s did not open\n", qPrintable(package));
 }
 
 } // namespace
@@ -131,6 +125,7 @@ int main(int argc, char** argv) {
 
     openSystem(app, QString::fromLocal8Bit(argv[2]));
     app.setSceneBackground(3);
+    app.tableView1().selectRow(2);
     saveWindow(window, out.filePath(QStringLiteral("system-on-navy.png")));
 
     QMenu& scene = *app.menus().sceneMenu;

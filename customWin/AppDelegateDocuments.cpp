@@ -1,0 +1,330 @@
+// Documents: New, Open, Save and Save As, packages handed over on the command line or
+// dropped on the window, and the question about unsaved changes. Packages are read and
+// written on a worker thread while the progress sheet turns; every change of the model and
+// the scene happens here, on the main thread, once the work is back.
+#include "core/export/PackageScene.h"
+#include "core/package/ProjectPackage.h"
+#include "core/settings/SettingsReaders.h"
+#include "customWin/AppDelegate.h"
+#include "customWin/CameraPopover.h"
+#include "customWin/FieldValidity.h"
+#include "customWin/PackageDialogs.h"
+#include "customWin/PlanetPanel.h"
+#include "customWin/ProgressSheet.h"
+#include "customWin/Sheet.h"
+#include "customWin/Strings.h"
+#include "customWin/TitleLabel.h"
+#include "customWin/headerView.h"
+#include "customWin/mainView.h"
+#include "customWin/mainWindow.h"
+#include "customWin/sceneView.h"
+#include "customWin/tableView1/PlanetTable.h"
+#include "customWin/tableView1/colorWell1_09.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QFileInfo>
+#include <QFutureWatcher>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QtConcurrent>
+
+namespace orrery::window {
+namespace {
+
+struct WorkResult {
+    bool ok = false;
+    std::string error;
+    OpenedProject project;
+};
+
+// Runs `work` on a worker thread while the progress sheet turns, then `done` back here.
+void runWithProgress(QWidget& window, const QString& label, std::function<WorkResult()> work,
+                     std::function<void(WorkResult&)> done) {
+    auto* progress = new ProgressSheet(label, window);
+    progress->begin();
+    auto* watcher = new QFutureWatcher<WorkResult>(progress);
+    QObject::connect(watcher, &QFutureWatcher<WorkResult>::finished, &window,
+                     [watcher, progress, done = std::move(done)] {
+                         WorkResult result = watcher->result();
+                         progress->end();
+                         done(result);
+                     });
+    watcher->setFuture(QtConcurrent::run(std::move(work)));
+}
+
+QString packageName(const QString& path) {
+    return QFileInfo(QDir::cleanPath(path)).completeBaseName();
+}
+
+} // namespace
+
+void AppDelegate::connectDocumentActions() {
+    connect(menus_.fileNew, &QAction::triggered, this, &AppDelegate::createNewSystem1);
+    connect(menus_.fileOpen, &QAction::triggered, this, &AppDelegate::openProject1);
+    connect(menus_.fileSave, &QAction::triggered, this, [this] { saveProject1(); });
+    connect(menus_.fileSaveAs, &QAction::triggered, this, [this] { saveAsProject1(); });
+    menus_.fileSave->setEnabled(false);
+    editor_->history().setChangeHandler([this] { updateTitle(); });
+    mainWindow_->setCloseGuard([this] { return mayClose(); });
+    connect(mainWindow_, &mainWindow::packagesDropped, this, &AppDelegate::openFiles);
+}
+
+bool AppDelegate::hasUnsavedChanges() const {
+    return editor_->history().revision() != savedHistoryRevision_ ||
+           otherChanges_ != savedOtherChanges_;
+}
+
+void AppDelegate::noteChange() {
+    ++otherChanges_;
+    updateTitle();
+}
+
+void AppDelegate::markSaved() {
+    savedHistoryRevision_ = editor_->history().revision();
+    savedOtherChanges_ = otherChanges_;
+    updateTitle();
+}
+
+// The title label names the program and the package, with a mark while there are changes
+// that are not saved.
+void AppDelegate::updateTitle() {
+    QString title = titleBase_.isEmpty() ? appName_ : titleBase_;
+    if (hasUnsavedChanges())
+        title += QLatin1Char(' ') + text("unsavedMarker");
+    titleLabel0_->setText(title);
+    mainWindow_->setWindowTitle(title);
+}
+
+void AppDelegate::createNewSystem1() {
+    if (generalSwitch(settings_.checkboxArray, 5)) {
+        createNewSystem2();
+        return;
+    }
+    saveMenuStatus();
+    askOnSheet(*mainWindow_, text("createNewSystemMsg"), text("createNewSystemInformative"),
+               {text("createNewSystemYes"), text("createNewSystemCancel")}, [this](int answer) {
+                   if (answer == kFirstButton)
+                       createNewSystem2();
+                   else
+                       loadMenuStatus();
+               });
+}
+
+// Clears the system. The package path stays, so that a following Save writes over the
+// last package without asking.
+void AppDelegate::createNewSystem2() {
+    removeAllPlanets();
+    PlanetPanel& panel = planetPanel();
+    panel.deletePlanetButton1().setEnabled(false);
+    panel.allButton1().setEnabled(false);
+    panel.allButton1().setChecked(false);
+    setCameraDefault();
+    setLightDefault();
+    loadMenuStatus();
+    titleBase_.clear();
+    editor_->history().clear();
+    markSaved();
+    validateExport();
+}
+
+void AppDelegate::removeAllPlanets() {
+    for (const PlanetRecord& planet : state_.planetArray)
+        sceneview().scene().deletePlanet(planet.tsecs);
+    state_.planetArray.clear();
+    reloadPlanets();
+}
+
+void AppDelegate::saveProject1(std::function<void()> then) {
+    if (state_.projectpath.empty() || !QFileInfo::exists(QString::fromStdString(state_.projectpath))) {
+        saveAsProject1(std::move(then));
+        return;
+    }
+    writePackage(QString::fromStdString(state_.projectpath), false, std::move(then));
+}
+
+// Save As starts in the export folder, where the pictures of the system go.
+void AppDelegate::saveAsProject1(std::function<void()> then) {
+    saveMenuStatus();
+    const QString folder = QString::fromStdString(
+        exportFolder(settings_.preferenceArray, documentsFolder()).string());
+    savePackagePanel(*mainWindow_, folder,
+                     {textWith("saveDocumentMessage", appName_),
+                      textWith("saveDocumentWindow", appName_), text("saveDocumentFile")},
+                     [this, then = std::move(then)](const QString& path) {
+                         if (path.isEmpty())
+                             loadMenuStatus();
+                         else
+                             writePackage(path, true, then);
+                     });
+}
+
+void AppDelegate::writePackage(const QString& path, bool saveAs, std::function<void()> then) {
+    headerView& header = mainWindow_->content().header();
+    const ProjectDocument document = projectDocument(
+        sceneview().scene(), state_.planetArray, header.widthField1().text().toStdString(),
+        header.heightField1().text().toStdString(), state_.currentBackground, state_.lightColor);
+    const std::string target = path.toStdString();
+    runWithProgress(
+        *mainWindow_, text("saveDocumentLabel"),
+        [document, target] {
+            WorkResult result;
+            result.ok = writeProjectPackage(target, document, result.error);
+            return result;
+        },
+        [this, path, saveAs, then](WorkResult& result) {
+            if (saveAs)
+                loadMenuStatus();
+            if (!result.ok) {
+                showFailure(text("saveFailedMsg"), result.error);
+                return;
+            }
+            state_.projectpath = path.toStdString();
+            menus_.fileSave->setEnabled(true);
+            if (saveAs)
+                titleBase_ = appName_ + QStringLiteral(": ") + packageName(path);
+            markSaved();
+            if (then)
+                then();
+        });
+}
+
+void AppDelegate::openProject1() {
+    askToSaveChanges([this] {
+        saveMenuStatus();
+        const QString folder = QString::fromStdString(
+            openFolder(settings_.preferenceArray, documentsFolder()).string());
+        openPackagePanel(*mainWindow_, folder, {text("openDocTitle"), text("openDocMessage"), {}},
+                         [this](const QString& path) {
+                             if (path.isEmpty())
+                                 loadMenuStatus();
+                             else
+                                 openProject2(path);
+                         });
+    });
+}
+
+// Packages handed over on the command line or dropped on the window: the first is opened.
+void AppDelegate::openFiles(const QStringList& paths) {
+    if (paths.isEmpty())
+        return;
+    const QString first = paths.first();
+    askToSaveChanges([this, first] {
+        saveMenuStatus();
+        openProject2(first);
+    });
+}
+
+// The package is read whole and checked on the worker; the system on screen is replaced
+// only once that succeeded, so a broken package costs nothing.
+void AppDelegate::openProject2(const QString& path) {
+    const std::string source = path.toStdString();
+    runWithProgress(
+        *mainWindow_, text("openDocMessageLabel"),
+        [source] {
+            WorkResult result;
+            result.ok = readProjectPackage(source, result.project, result.error);
+            return result;
+        },
+        [this, path](WorkResult& result) {
+            if (result.ok)
+                openProject3(path, result.project);
+            loadMenuStatus();
+            if (!result.ok)
+                showFailure(text("openFailedMsg"), result.error);
+            validateExport();
+        });
+}
+
+void AppDelegate::openProject3(const QString& path, const OpenedProject& project) {
+    const auto& settings = project.settings;
+    headerView& header = mainWindow_->content().header();
+    header.widthField1().setText(QString::fromStdString(settings[setting::width]));
+    header.heightField1().setText(QString::fromStdString(settings[setting::height]));
+    markValid(header.widthField1(), project.checks.width);
+    markValid(header.heightField1(), project.checks.height);
+    if (project.checks.width && project.checks.height)
+        setTopFrame();
+    if (project.checks.background)
+        setSceneBackground(packageBackground(project));
+
+    removeAllPlanets();
+    applyPackageToScene(sceneview().scene(), project);
+    showOpenedCameraAndLight(project);
+    state_.lightColor = project.lightColor;
+    popOver4_->colorWell4().setColor(state_.lightColor);
+    for (const PlanetRecord& planet : project.planets)
+        state_.planetArray.append(planet);
+    reloadPlanets();
+
+    state_.projectpath = path.toStdString();
+    menus_.fileSave->setEnabled(true);
+    titleBase_ = appName_ + QStringLiteral(": ") + packageName(path);
+    editor_->history().clear();
+    markSaved();
+}
+
+// Values that pass are shown in the popovers' fields. A refused camera leaves the fields
+// as they are and marks those whose own text fails; a refused light marks the fields of
+// the file's failing values.
+void AppDelegate::showOpenedCameraAndLight(const OpenedProject& project) {
+    const auto& s = project.settings;
+    CameraPopover& camera = *popOver5_;
+    QLineEdit* cameraFields[] = {&camera.xfovField5(), &camera.yfovField5(), &camera.xField5(),
+                                 &camera.yField5(), &camera.zField5()};
+    if (project.checks.camera) {
+        for (std::size_t i = 0; i < 5; ++i) {
+            cameraFields[i]->setText(QString::fromStdString(s[setting::cameraXFov + i]));
+            markValid(*cameraFields[i], true);
+        }
+        camera.orthoButton5().setChecked(project.orthographic);
+        camera.adjustZButton5().setChecked(project.zRange);
+    } else {
+        markCameraFields();
+    }
+    LightPopover& light = *popOver4_;
+    QLineEdit* lightFields[] = {&light.xField4(), &light.yField4(), &light.zField4()};
+    for (std::size_t i = 0; i < 3; ++i) {
+        if (project.checks.light)
+            lightFields[i]->setText(QString::fromStdString(s[setting::lightX + i]));
+        markValid(*lightFields[i], project.checks.lightFields[i]);
+    }
+}
+
+void AppDelegate::showFailure(const QString& message, const std::string& reason) {
+    askOnSheet(*mainWindow_, message, QString::fromStdString(reason), {text("yes")},
+               [](int) {});
+}
+
+// Before the system on screen is replaced or the program ends, unsaved changes are offered
+// for saving; `then` runs once they are saved or given up, and not at all on Cancel.
+void AppDelegate::askToSaveChanges(std::function<void()> then) {
+    if (!hasUnsavedChanges()) {
+        then();
+        return;
+    }
+    saveMenuStatus();
+    const QString name = titleBase_.isEmpty() ? text("saveDocumentFile")
+                                              : packageName(QString::fromStdString(state_.projectpath));
+    askOnSheet(*mainWindow_, textWith("saveChangesMsg", name), text("saveChangesInformative"),
+               {text("saveChangesSave"), text("saveChangesDiscard"), text("saveChangesCancel")},
+               [this, then = std::move(then)](int answer) {
+                   loadMenuStatus();
+                   if (answer == kFirstButton)
+                       saveProject1(then);
+                   else if (answer == kFirstButton + 1)
+                       then();
+               });
+}
+
+bool AppDelegate::mayClose() {
+    if (closingConfirmed_ || !hasUnsavedChanges())
+        return true;
+    askToSaveChanges([this] {
+        closingConfirmed_ = true;
+        mainWindow_->close();
+    });
+    return false;
+}
+
+} // namespace orrery::window

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class QWidget;
+
+// The open and save panels for project packages. A package is a folder named *.kvx, which
+// a file dialog would walk into like any folder: here entering one chooses it.
+namespace orrery::window {
+
+struct PanelTexts {
+    QString title;
+    QString message;
+    QString suggestedName; // save panels only
+};
+
+// Each opens a window-modal panel and calls `chosen` with the path, or with an empty text
+// when the person cancelled.
+void openPackagePanel(QWidget& window, const QString& folder, const PanelTexts& texts,
+                      std::function<void(const QString&)> chosen);
+void savePackagePanel(QWidget& window, const QString& folder, const PanelTexts& texts,
+                      std::function<void(const QString&)> chosen);
+
+// A save panel for a picture of one type ("png"), with an optional widget under it.
+void savePicturePanel(QWidget& window, const QString& folder, const PanelTexts& texts,
+                      const QString& fileType, QWidget* accessory,
+                      std::function<void(const QString&)> chosen);
+
+} // namespace orrery::window

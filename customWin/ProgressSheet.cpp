@@ -1,0 +1,76 @@
+#include "customWin/ProgressSheet.h"
+
+#include "customWin/Sheet.h"
+
+#include <QLabel>
+#include <QPainter>
+
+namespace orrery::window {
+namespace {
+
+constexpr int kSpokes = 12;
+constexpr int kStepMs = 80;
+
+} // namespace
+
+Spinner::Spinner(QWidget* parent) : QWidget(parent) {
+    setObjectName(QStringLiteral("progressSpinner"));
+    timer_.setInterval(kStepMs);
+    connect(&timer_, &QTimer::timeout, this, [this] {
+        ++steps_;
+        update();
+    });
+}
+
+void Spinner::start() {
+    timer_.start();
+}
+
+void Spinner::stop() {
+    timer_.stop();
+}
+
+void Spinner::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(width() / 2.0, height() / 2.0);
+    const double radius = std::min(width(), height()) / 2.0;
+    for (int spoke = 0; spoke < kSpokes; ++spoke) {
+        // The spoke at the head is brightest; the others fade behind it.
+        const int age = (spoke - steps_ % kSpokes + kSpokes) % kSpokes;
+        QColor colour(220, 228, 255);
+        colour.setAlphaF(static_cast<float>(1.0 - age / static_cast<double>(kSpokes)));
+        painter.setPen(QPen(colour, radius / 4.5, Qt::SolidLine, Qt::RoundCap));
+        painter.save();
+        painter.rotate(-360.0 * spoke / kSpokes);
+        painter.drawLine(QPointF(0, -radius * 0.5), QPointF(0, -radius * 0.85));
+        painter.restore();
+    }
+}
+
+ProgressSheet::ProgressSheet(const QString& label, QWidget& window)
+    : QDialog(&window), spinner_(new Spinner(this)), label_(new QLabel(label, this)) {
+    setObjectName(QStringLiteral("progressSheet"));
+    makeSheet(*this);
+    setFixedSize(400, 114);
+    // The spinner near the top, 74 above the bottom edge, the label centred under it.
+    spinner_->setGeometry(190, 114 - 74 - 20, 20, 20);
+    label_->setObjectName(QStringLiteral("progressLabel"));
+    label_->setGeometry(80, 50, 240, 46);
+    label_->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    label_->setWordWrap(true);
+}
+
+void ProgressSheet::begin() {
+    open();
+    placeAsSheet(*this, *parentWidget());
+    spinner_->start();
+}
+
+void ProgressSheet::end() {
+    spinner_->stop();
+    accept();
+    deleteLater();
+}
+
+} // namespace orrery::window
