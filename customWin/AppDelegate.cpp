@@ -16,6 +16,7 @@
 
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QPrinter>
 #include <QScreen>
 
 #include <filesystem>

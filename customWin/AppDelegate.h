@@ -2,6 +2,7 @@
 
 #include "core/app/AppState.h"
 #include "core/edit/SystemEditor.h"
+#include "core/export/ExportFormat.h"
 #include "core/package/ProjectDocument.h"
 #include "core/settings/Settings.h"
 #include "core/settings/SettingsReaders.h"
@@ -19,6 +20,7 @@
 #include <optional>
 
 class QLineEdit;
+class QPrinter;
 
 namespace orrery::window {
 
@@ -117,6 +119,12 @@ public:
     void openFiles(const QStringList& paths);
     bool hasUnsavedChanges() const;
 
+    // Export and printing (AppDelegateExport.cpp, AppDelegatePrint.cpp).
+    void FileExport1();
+    void printPlain();
+    void pageSetup();
+    QPrinter& printer();
+
     // Camera and light (AppDelegateCamera.cpp).
     void show1bClicked();
     void show1Clicked();
@@ -160,6 +168,11 @@ private:
     void showFailure(const QString& message, const std::string& reason);
     void askToSaveChanges(std::function<void()> then);
     bool mayClose();
+
+    // Export.
+    void FileExport2(bool withBackground);
+    void exportPicture(const QString& path, ExportFormat format, bool withBackground,
+                       float compression);
 
     // Camera and light.
     bool markCameraFields();
@@ -220,6 +233,7 @@ private:
     std::uint64_t otherChanges_ = 0; // background and document size
     std::uint64_t savedOtherChanges_ = 0;
     bool closingConfirmed_ = false;
+    std::unique_ptr<QPrinter> printer_; // the print settings, kept between jobs
     int editSession_ = 0;
     gradationWindow* gradationWindow_ = nullptr;
     searchWindow* searchWindow_ = nullptr;

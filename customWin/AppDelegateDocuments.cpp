@@ -24,10 +24,8 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QFileInfo>
-#include <QFutureWatcher>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QtConcurrent>
 
 namespace orrery::window {
 namespace {
@@ -37,21 +35,6 @@ struct WorkResult {
     std::string error;
     OpenedProject project;
 };
-
-// Runs `work` on a worker thread while the progress sheet turns, then `done` back here.
-void runWithProgress(QWidget& window, const QString& label, std::function<WorkResult()> work,
-                     std::function<void(WorkResult&)> done) {
-    auto* progress = new ProgressSheet(label, window);
-    progress->begin();
-    auto* watcher = new QFutureWatcher<WorkResult>(progress);
-    QObject::connect(watcher, &QFutureWatcher<WorkResult>::finished, &window,
-                     [watcher, progress, done = std::move(done)] {
-                         WorkResult result = watcher->result();
-                         progress->end();
-                         done(result);
-                     });
-    watcher->setFuture(QtConcurrent::run(std::move(work)));
-}
 
 QString packageName(const QString& path) {
     return QFileInfo(QDir::cleanPath(path)).completeBaseName();
@@ -165,7 +148,7 @@ void AppDelegate::writePackage(const QString& path, bool saveAs, std::function<v
         sceneview().scene(), state_.planetArray, header.widthField1().text().toStdString(),
         header.heightField1().text().toStdString(), state_.currentBackground, state_.lightColor);
     const std::string target = path.toStdString();
-    runWithProgress(
+    runWithProgress<WorkResult>(
         *mainWindow_, text("saveDocumentLabel"),
         [document, target] {
             WorkResult result;
@@ -219,7 +202,7 @@ void AppDelegate::openFiles(const QStringList& paths) {
 // only once that succeeded, so a broken package costs nothing.
 void AppDelegate::openProject2(const QString& path) {
     const std::string source = path.toStdString();
-    runWithProgress(
+    runWithProgress<WorkResult>(
         *mainWindow_, text("openDocMessageLabel"),
         [source] {
             WorkResult result;

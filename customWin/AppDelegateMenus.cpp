@@ -74,9 +74,11 @@ void AppDelegate::connectMenuActions() {
     connect(m.editRedo, &QAction::triggered, this, &AppDelegate::redoClicked);
     connect(m.planetCreate, &QAction::triggered, this, &AppDelegate::openPlanetCreation);
     connect(m.planetDelete, &QAction::triggered, this, &AppDelegate::deletPlanet1);
-    // Printing and Preferences are offered once their commands are in place.
-    for (QAction* later : {m.filePrintsetup, m.filePrint, m.appPreferences})
-        later->setEnabled(false);
+    connect(m.fileExport, &QAction::triggered, this, &AppDelegate::FileExport1);
+    connect(m.filePrint, &QAction::triggered, this, &AppDelegate::printPlain);
+    connect(m.filePrintsetup, &QAction::triggered, this, &AppDelegate::pageSetup);
+    // Preferences are offered once their sheet is in place.
+    m.appPreferences->setEnabled(false);
 }
 
 void AppDelegate::saveMenuStatus() {

@@ -57,6 +57,7 @@ void AppDelegate::buildPlanetPanel() {
             &AppDelegate::openPlanetCreation);
     connect(&panel.deletePlanetButton1(), &QPushButton::clicked, this, &AppDelegate::deletPlanet1);
     connect(&panel.allButton1(), &QCheckBox::clicked, this, &AppDelegate::all1Clicked);
+    connect(&panel.exportButton1(), &QPushButton::clicked, this, &AppDelegate::FileExport1);
     connect(tableView1_, &PlanetTable::selectionChangedRows, this,
             &AppDelegate::planetDeletionSelection);
     connect(planetModel_, &PlanetTableModel::rowCountChanged, this, [this](int count) {
@@ -146,6 +147,7 @@ void AppDelegate::planetDeletionSelection() {
 void AppDelegate::validateExport() {
     const bool shown = canExport(state_.planetArray);
     menus_.fileExport->setEnabled(shown);
+    planetPanel().exportButton1().setEnabled(shown);
 }
 
 void AppDelegate::openPlanetCreation() {

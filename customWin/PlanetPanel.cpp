@@ -28,7 +28,8 @@ PlanetPanel::PlanetPanel(QWidget* parent)
       delete_(makeButton("deletePlanetButton1", "deletePlanetButton", this)),
       all_(new QCheckBox(text("allButton"), this)), status_(new QLabel(text("invalidValueStatus"), this)),
       camera_(makeButton("cameraButton5", "cameraButton", this)),
-      light_(makeButton("lightButton4", "lightButton", this)) {
+      light_(makeButton("lightButton4", "lightButton", this)),
+      export_(makeButton("exportButton1", "exportButton", this)) {
     setObjectName(QStringLiteral("planetPanel"));
     all_->setObjectName(QStringLiteral("allButton1"));
     status_->setObjectName(QStringLiteral("statusLabel1"));
@@ -38,6 +39,12 @@ PlanetPanel::PlanetPanel(QWidget* parent)
     status_->hide();
     create_->setIcon(QIcon::fromTheme(QStringLiteral("list-add")));
     delete_->setIcon(QIcon::fromTheme(QStringLiteral("list-remove")));
+    // The one action that leaves the program with a result stands out.
+    export_->setStyleSheet(QStringLiteral(
+        "QPushButton { background: #3d6fd6; color: white; border: 1px solid #5a86e6;"
+        " border-radius: 4px; padding: 0 12px; }"
+        "QPushButton:disabled { background: #2a3350; color: #7a84a3; border-color: #3a4466; }"
+        "QPushButton:hover:enabled { background: #4a7ce6; }"));
 }
 
 void PlanetPanel::setTable(PlanetTable* table) {
@@ -56,7 +63,8 @@ void PlanetPanel::resizeEvent(QResizeEvent*) {
         left += width + kGap;
     }
     int right = width() - kInset;
-    for (QWidget* control : {static_cast<QWidget*>(light_), static_cast<QWidget*>(camera_)}) {
+    for (QWidget* control : {static_cast<QWidget*>(export_), static_cast<QWidget*>(light_),
+                             static_cast<QWidget*>(camera_)}) {
         const int width = control->sizeHint().width();
         right -= width;
         control->setGeometry(right, kInset, width, kRowHeight);

@@ -27,6 +27,7 @@ public:
     QLabel& statusLabel1() { return *status_; }
     QPushButton& cameraButton() { return *camera_; }
     QPushButton& lightButton() { return *light_; }
+    QPushButton& exportButton1() { return *export_; }
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -38,6 +39,7 @@ private:
     QLabel* status_;
     QPushButton* camera_;
     QPushButton* light_;
+    QPushButton* export_;
     PlanetTable* table_ = nullptr;
 };
 

@@ -1,7 +1,11 @@
 #pragma once
 
 #include <QDialog>
+#include <QFutureWatcher>
 #include <QTimer>
+#include <QtConcurrent>
+
+#include <functional>
 
 class QLabel;
 
@@ -37,5 +41,22 @@ private:
     Spinner* spinner_;
     QLabel* label_;
 };
+
+// Runs `work` on a worker thread while the progress sheet turns on the window, then `done`
+// with its result back on the main thread, after the sheet has gone.
+template <typename Result>
+void runWithProgress(QWidget& window, const QString& label, std::function<Result()> work,
+                     std::function<void(Result&)> done) {
+    auto* progress = new ProgressSheet(label, window);
+    progress->begin();
+    auto* watcher = new QFutureWatcher<Result>(progress);
+    QObject::connect(watcher, &QFutureWatcher<Result>::finished, &window,
+                     [watcher, progress, done = std::move(done)] {
+                         Result result = watcher->result();
+                         progress->end();
+                         done(result);
+                     });
+    watcher->setFuture(QtConcurrent::run(std::move(work)));
+}
 
 } // namespace orrery::window

@@ -11,15 +11,8 @@
 // preferences and the current system.
 namespace orrery {
 
-// The row the format question starts on, from Preferences position 2. The Preferences
-// window stores its own row 0 to 5 there, but the question reads the number as row + 1:
-// "2" (JPEG there) starts on GIF, and empty or "0" starts on PNG. The two readers
-// disagree on purpose. A value that names no row (text, 7, -3) also starts on PNG.
-ExportFormat defaultExportFormat(std::string_view storedFormat);
-
-// The compression slider's start value 0 to 100 from Preferences position 3: empty or
-// "0" means 85; other values are clamped to the slider's range.
-int defaultCompression(std::string_view storedCompression);
+// The format question's first row and the slider's start value come from the stored
+// preferences (exportQuestionFormatRow and compressionPercent in SettingsReaders.h).
 
 // The compression factor handed to the encoders: the slider value / 100, single precision.
 float compressionFactor(int sliderValue);

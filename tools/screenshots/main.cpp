@@ -3,6 +3,8 @@
 //   tests/window/with-desktop build/release/tools/screenshots/orrery-screenshots OUT PACKAGE
 #include "customWin/AppDelegate.h"
 #include "customWin/AppStyle.h"
+#include "customWin/ProgressSheet.h"
+#include "customWin/Strings.h"
 #include "customWin/WindowMain.h"
 #include "customWin/mainWindow.h"
 #include "customWin/sceneView.h"
@@ -10,6 +12,8 @@
 #include "resources/translations/Translations.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QPushButton>
 #include <QDir>
 #include <QLineEdit>
 #include <QMenu>
@@ -127,6 +131,22 @@ int main(int argc, char** argv) {
     app.setSceneBackground(3);
     app.tableView1().selectRow(2);
     saveWindow(window, out.filePath(QStringLiteral("system-on-navy.png")));
+
+    app.FileExport1();
+    saveWindow(window, out.filePath(QStringLiteral("export-question.png")));
+    QComboBox* formats = window.findChild<QComboBox*>(QStringLiteral("exportPopup1"));
+    formats->setCurrentIndex(2);
+    QTest::mouseClick(window.findChild<QPushButton*>(QStringLiteral("sheetButton1000")),
+                      Qt::LeftButton);
+    QTest::qWait(900);
+    saveWindow(window, out.filePath(QStringLiteral("export-panel.png")), 200);
+    if (QWidget* panel = QApplication::activeModalWidget())
+        panel->close();
+    auto* progress = new orrery::window::ProgressSheet(
+        orrery::window::text("exportImageSavingNewImage"), window);
+    progress->begin();
+    saveWindow(window, out.filePath(QStringLiteral("progress-sheet.png")));
+    progress->end();
 
     QMenu& scene = *app.menus().sceneMenu;
     QMenuBar& bar = *window.findChild<QMenuBar*>(QStringLiteral("menuBar"));

@@ -1,0 +1,112 @@
+// Export: the format question, the save panel with its compression slider, the picture
+// read back from the scene and laid over the background colour when asked, and the file
+// written on a worker thread behind the progress sheet.
+#include "core/app/AppPaths.h"
+#include "core/export/ExportChoices.h"
+#include "core/export/ExportPicture.h"
+#include "core/settings/SettingsReaders.h"
+#include "customWin/AppDelegate.h"
+#include "customWin/ExportAccessories.h"
+#include "customWin/PackageDialogs.h"
+#include "customWin/ProgressSheet.h"
+#include "customWin/Sheet.h"
+#include "customWin/Strings.h"
+#include "customWin/mainWindow.h"
+#include "customWin/sceneView.h"
+#include "imageio/ImageFile.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QSlider>
+#include <QTimer>
+
+namespace orrery::window {
+namespace {
+
+constexpr int kPanelDelayMs = 500;
+
+} // namespace
+
+void AppDelegate::FileExport1() {
+    state_.formatSelection = exportQuestionFormatRow(settings_.preferenceArray);
+    auto* accessory = new accessoryView1();
+    accessory->exportPopup1().setCurrentIndex(state_.formatSelection);
+    connect(&accessory->exportPopup1(), &QComboBox::currentIndexChanged, this,
+            [this](int row) { state_.formatSelection = row; });
+    saveMenuStatus();
+    const std::string includePreference =
+        settings_.checkboxArray.size() > 3 ? settings_.checkboxArray[3] : std::string();
+    const IncludeBackgroundChoice include =
+        includeBackgroundChoice(state_.currentBackground, includePreference);
+    accessory->includeButton1().setEnabled(include.enabled);
+    accessory->includeButton1().setChecked(include.on);
+    askOnSheet(*mainWindow_, text("exportImageSelectingExportFormat"), QString(),
+               {text("exportImageNext"), text("exportImageCancel")},
+               [this, accessory](int answer) {
+                   if (answer != kFirstButton) {
+                       loadMenuStatus();
+                       return;
+                   }
+                   const bool withBackground = accessory->includeButton1().isChecked();
+                   QTimer::singleShot(kPanelDelayMs, this,
+                                      [this, withBackground] { FileExport2(withBackground); });
+               },
+               accessory);
+}
+
+// The save panel of the chosen format; JPEG and JPEG 2000 carry the compression slider.
+void AppDelegate::FileExport2(bool withBackground) {
+    const ExportFormat format = formatForRow(state_.formatSelection).value_or(ExportFormat::png);
+    const ExportFormatInfo& info = formatInfo(format);
+    accessoryView2* compression = nullptr;
+    if (info.usesCompression) {
+        compression = new accessoryView2();
+        const int percent = compressionPercent(settings_.preferenceArray);
+        compression->compressSlider2().setValue(percent);
+        compression->compressLabel2().setText(QString::number(percent) + QLatin1Char('%'));
+    }
+    const QString folder = QString::fromStdString(
+        exportFolder(settings_.preferenceArray, documentsFolder()).string());
+    savePicturePanel(
+        *mainWindow_, folder,
+        {text("exportImageTitle"), text("exportImageSelectFilePath"),
+         text("exportImageUntitleFileName")},
+        QString::fromUtf8(info.fileType.data(), static_cast<qsizetype>(info.fileType.size())),
+        compression, [this, format, withBackground, compression](const QString& path) {
+            if (path.isEmpty()) {
+                loadMenuStatus();
+                return;
+            }
+            const int slider = compression != nullptr ? compression->compressSlider2().value()
+                                                      : kDefaultCompression;
+            exportPicture(path, format, withBackground, compressionFactor(slider));
+        });
+}
+
+void AppDelegate::exportPicture(const QString& path, ExportFormat format, bool withBackground,
+                                float compression) {
+    std::string error;
+    const std::optional<Image> scene = sceneview().imageFromSceneKitView(&error);
+    if (!scene) {
+        loadMenuStatus();
+        showFailure(text("exportFailedMsg"), error);
+        return;
+    }
+    const Image picture =
+        orrery::exportPicture(*scene, state_.currentBackground, withBackground);
+    const std::string target = path.toStdString();
+    runWithProgress<std::string>(
+        *mainWindow_, text("exportImageSavingNewImage"),
+        [picture, target, format, compression] {
+            return imageio::writeImageFile(picture, target, format, compression);
+        },
+        [this](std::string& failure) {
+            loadMenuStatus();
+            if (!failure.empty())
+                showFailure(text("exportFailedMsg"), failure);
+        });
+}
+
+} // namespace orrery::window
