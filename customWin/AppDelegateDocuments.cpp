@@ -210,10 +210,10 @@ void AppDelegate::openProject2(const QString& path) {
             return result;
         },
         [this, path](WorkResult& result) {
+            loadMenuStatus();
             if (result.ok)
                 openProject3(path, result.project);
-            loadMenuStatus();
-            if (!result.ok)
+            else
                 showFailure(text("openFailedMsg"), result.error);
             validateExport();
         });

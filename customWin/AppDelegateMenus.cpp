@@ -91,7 +91,8 @@ void AppDelegate::saveMenuStatus() {
         items[i]->setEnabled(now[static_cast<std::size_t>(i)]);
 }
 
-// Before any sheet has saved the items' states there is nothing to restore.
+// Restores what the last save recorded, once: a restore without a save before it (or a
+// second one) changes nothing, so no stale state comes back.
 void AppDelegate::loadMenuStatus() {
     if (state_.menuArray.empty())
         return;
@@ -100,6 +101,7 @@ void AppDelegate::loadMenuStatus() {
         orrery::loadMenuStatus(state_.menuArray, static_cast<std::size_t>(items.size()));
     for (qsizetype i = 0; i < items.size(); ++i)
         items[i]->setEnabled(states[static_cast<std::size_t>(i)]);
+    state_.menuArray.clear();
 }
 
 // The argument of hideAxes means "show", the opposite of the new axesHiden.

@@ -14,5 +14,7 @@ std::unique_ptr<QObject> makeMenuTest();
 std::unique_ptr<QObject> makeSceneTest();
 std::unique_ptr<QObject> makePlanetsTest();
 std::unique_ptr<QObject> makeCameraLightTest();
+std::unique_ptr<QObject> makeDocumentsTest();
+std::unique_ptr<QObject> makeExportTest();
 
 } // namespace orrery::window::testing

@@ -3,19 +3,24 @@
 #include "customWin/mainWindow.h"
 
 #include <QCoreApplication>
+#include <QLineEdit>
 #include <QScreen>
 #include <QTest>
 
 namespace orrery::window::testing {
 
-FreshStart::FreshStart() {
+FreshStart::FreshStart() : savedHome_(qgetenv("HOME")) {
+    // A home of its own too: the panels start in the documents folder, which is the home
+    // folder when there is no other.
     qputenv("XDG_DATA_HOME", dataHome_.path().toLocal8Bit());
+    qputenv("HOME", dataHome_.path().toLocal8Bit());
     delegate_ = std::make_unique<AppDelegate>();
 }
 
 FreshStart::~FreshStart() {
     delegate_.reset();
     qunsetenv("XDG_DATA_HOME");
+    qputenv("HOME", savedHome_);
 }
 
 void FreshStart::start() {
@@ -34,6 +39,14 @@ void FreshStart::restart() {
     delegate_.reset();
     delegate_ = std::make_unique<AppDelegate>();
     start();
+}
+
+void chooseInPanel(QDialog& panel, const QString& path) {
+    auto* name = panel.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    if (name == nullptr)
+        qFatal("the panel has no name field");
+    name->setText(path);
+    panel.accept();
 }
 
 QColor pixelOnScreen(QWidget& widget, QPoint point) {

@@ -3,6 +3,7 @@
 #include "customWin/AppDelegate.h"
 
 #include <QTemporaryDir>
+#include <QDialog>
 #include <QWidget>
 
 #include <memory>
@@ -26,6 +27,7 @@ public:
     void restart();
 
 private:
+    QByteArray savedHome_;
     QTemporaryDir dataHome_;
     std::unique_ptr<AppDelegate> delegate_;
 };
@@ -37,6 +39,9 @@ T& child(QWidget& window, const char* name) {
         qFatal("no %s named %s", T::staticMetaObject.className(), name);
     return *found;
 }
+
+// Types the path into a file panel's name field and presses its button, as a person would.
+void chooseInPanel(QDialog& panel, const QString& path);
 
 // The colour of a point of a widget as it is drawn on screen.
 QColor pixelOnScreen(QWidget& widget, QPoint point);

@@ -19,7 +19,9 @@ int main(int argc, char** argv) {
         {"Menu", makeMenuTest},
         {"Scene", makeSceneTest},
         {"Planets", makePlanetsTest},
-        {"CameraLight", makeCameraLightTest}};
+        {"CameraLight", makeCameraLightTest},
+        {"Documents", makeDocumentsTest},
+        {"Export", makeExportTest}};
     const auto suite = argc > 1 ? suites.find(argv[1]) : suites.end();
     if (suite == suites.end()) {
         std::fprintf(stderr, "usage: %s SUITE [Qt Test options]\n", argv[0]);

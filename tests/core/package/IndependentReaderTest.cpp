@@ -1,5 +1,5 @@
-// Packages written by another implementation (Python's plistlib, laid out as the original
-// platform's archiver does) must read correctly, and ours must read correctly there.
+// Packages written by another implementation (Python's plistlib, in the NSKeyedArchiver
+// layout) must read correctly, and ours must read correctly there.
 #include "PackageTestSupport.h"
 
 #include "core/package/ProjectPackage.h"

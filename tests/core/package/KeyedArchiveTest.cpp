@@ -40,7 +40,7 @@ TEST(ColorComponents, TextRoundTripsExactly_AndOnlyFiniteDecimalsAreRead) {
         const double alpha = numbers->size() == 4 ? (*numbers)[3] : 1.0;
         EXPECT_EQ((Color{(*numbers)[0], (*numbers)[1], (*numbers)[2], alpha}), color);
     }
-    // As the original writes pure blue: no alpha when it is 1, and a closing NUL.
+    // Pure blue as an archived colour holds it: no alpha when it is 1, and a closing NUL.
     EXPECT_EQ(rgbComponentsText(kPureBlue), std::string("0 0 1", 6));
     EXPECT_EQ(parseColorComponents(std::string("0.5 +1 2e-1\0\0", 13)),
               (std::vector<double>{0.5, 1, 0.2}));

@@ -4,8 +4,9 @@
     package_fixtures.py make OUTDIR    write fixture packages and OUTDIR/manifest.json
     package_fixtures.py dump PACKAGE   print a package as JSON, read with plistlib only
 
-"make" writes packages the way the original platform's archiver lays them out (shared
-entries, mutable classes, colours in several spaces, both forms of reference) plus broken
+"make" writes packages in the NSKeyedArchiver layout, with everything a reader of that
+layout meets (shared entries, mutable classes, colours in several spaces, both forms of
+reference) plus broken
 ones; the manifest says what reading each must give. "dump" lets the tests check that the
 packages our writer produces are readable by a reader that is not ours.
 """
@@ -38,7 +39,7 @@ class Archive:
         return len(self.objects) - 1
 
     def text(self, value):
-        """Equal texts share one entry, as the original's archiver stores them."""
+        """Equal texts share one entry, as keyed archivers store them."""
         if value not in self.texts:
             self.texts[value] = self.add(value)
         return self.texts[value]

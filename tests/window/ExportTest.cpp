@@ -1,0 +1,146 @@
+#include "core/export/ExportPicture.h"
+#include "customWin/mainWindow.h"
+#include "customWin/sceneView.h"
+#include "imageio/ImageFile.h"
+#include "tests/window/WindowTestSuites.h"
+#include "tests/window/WindowTestSupport.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFile>
+#include <QFileDialog>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QSlider>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace orrery::window::testing {
+namespace {
+
+QWidget* visibleTopLevel(const char* name) {
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->objectName() == QLatin1String(name) && window->isVisible())
+            return window;
+    return nullptr;
+}
+
+QByteArray contents(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+class ExportTest : public QObject {
+    Q_OBJECT
+private slots:
+    void init() {
+        app_ = std::make_unique<FreshStart>();
+        app_->start();
+        app_->delegate().editor().createPlanet("100", "Subject");
+        app_->delegate().reloadPlanets();
+    }
+    void cleanup() { app_.reset(); }
+
+    void theQuestionStartsOnTheFormatThePreferenceNames() {
+        const std::pair<const char*, int> cases[] = {{"0", 4}, {"", 4}, {"3", 2}, {"1", 0}};
+        for (const auto& [stored, row] : cases) {
+            app_->delegate().settings().editData1(2, stored);
+            QWidget* question = ask();
+            QCOMPARE(child<QComboBox>(*question, "exportPopup1").currentIndex(), row);
+            QTest::mouseClick(&child<QPushButton>(*question, "sheetButton1001"), Qt::LeftButton);
+            QTRY_VERIFY(visibleTopLevel("questionSheet") == nullptr);
+        }
+        QVERIFY(app_->delegate().menus().fileExport->isEnabled());
+    }
+
+    void aTransparentBackgroundKeepsItsAlpha() {
+        QWidget* question = ask();
+        auto& include = child<QCheckBox>(*question, "includeButton1");
+        QVERIFY(!include.isEnabled() && !include.isChecked());
+        const QString png = exportAs(*question, 4);
+        const QImage written(png);
+        QVERIFY(written.hasAlphaChannel());
+        QCOMPARE(written.size(), QSize(960, 540));
+        QCOMPARE(written.pixelColor(0, 0).alpha(), 0);
+        QCOMPARE(written.pixelColor(480, 270).alpha(), 255);
+    }
+
+    void compressionZeroWritesAJpegAtEightyFive() {
+        app_->delegate().settings().editData1(3, "0");
+        app_->delegate().settings().editData2(3, "1"); // include the background
+        app_->delegate().setSceneBackground(2);
+        QWidget* question = ask();
+        QVERIFY(child<QCheckBox>(*question, "includeButton1").isChecked());
+        const QString jpeg = exportAs(*question, 2, 85);
+
+        const std::optional<Image> scene = app_->delegate().sceneview().imageFromSceneKitView();
+        QVERIFY(scene.has_value());
+        const QString expected = folder_.filePath(QStringLiteral("expected.jpg"));
+        QCOMPARE(imageio::writeImageFile(exportPicture(*scene, 2, true), expected.toStdString(),
+                                         ExportFormat::jpeg, 0.85f),
+                 std::string());
+        QCOMPARE(contents(jpeg), contents(expected));
+    }
+
+    void printingToAFileGivesOneBlankPage() {
+        const QString pdf = folder_.filePath(QStringLiteral("page.pdf"));
+        QPrinter& printer = app_->delegate().printer();
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(pdf);
+        app_->delegate().menus().filePrint->trigger();
+        QPrintDialog* dialog = nullptr;
+        QTRY_VERIFY((dialog = qobject_cast<QPrintDialog*>(visibleTopLevel("printDialog"))) !=
+                    nullptr);
+        dialog->accept();
+        QTRY_VERIFY(QFile::exists(pdf));
+        const QByteArray document = contents(pdf);
+        QCOMPARE(document.count("/Type /Page\n") + document.count("/Type /Page\r") +
+                     document.count("/Type /Page/") + document.count("/Type /Page>"),
+                 1);
+    }
+
+private:
+    QWidget* ask() {
+        app_->delegate().menus().fileExport->trigger();
+        QWidget* question = nullptr;
+        [&] { QTRY_VERIFY((question = visibleTopLevel("questionSheet")) != nullptr); }();
+        return question;
+    }
+
+    // Picks the format row, goes on to the panel and saves there; returns the file.
+    QString exportAs(QWidget& question, int row, int expectedSlider = -1) {
+        child<QComboBox>(question, "exportPopup1").setCurrentIndex(row);
+        QTest::mouseClick(&child<QPushButton>(question, "sheetButton1000"), Qt::LeftButton);
+        QFileDialog* panel = nullptr;
+        [&] {
+            QTRY_VERIFY((panel = qobject_cast<QFileDialog*>(visibleTopLevel("savePanel"))) !=
+                        nullptr);
+        }();
+        if (panel == nullptr)
+            return {};
+        auto* slider = panel->findChild<QSlider*>(QStringLiteral("compressSlider2"));
+        if (expectedSlider >= 0)
+            [&] { QVERIFY(slider != nullptr && slider->value() == expectedSlider); }();
+        const QString path = folder_.filePath(QStringLiteral("picture.%1")
+                                                  .arg(panel->defaultSuffix()));
+        chooseInPanel(*panel, path);
+        [&] { QTRY_VERIFY(QFile::exists(path) && visibleTopLevel("progressSheet") == nullptr); }();
+        return path;
+    }
+
+    QTemporaryDir folder_;
+    std::unique_ptr<FreshStart> app_;
+};
+
+std::unique_ptr<QObject> makeExportTest() {
+    return std::make_unique<ExportTest>();
+}
+
+} // namespace orrery::window::testing
+
+#include "ExportTest.moc"
