@@ -13,6 +13,7 @@
 #include "customWin/sceneView.h"
 #include "customWin/screenView.h"
 #include "customWin/searchWindow.h"
+#include "customWin/tableView1/PlanetTable.h"
 
 #include <QGuiApplication>
 #include <QLineEdit>
@@ -84,6 +85,8 @@ void AppDelegate::applicationWillFinishLaunching() {
     state_.currentPage = 1;
     menus_.sceneColorItems[0]->setChecked(true);
     state_.lightColor = kWhite;
+    // The keyboard starts in the planet table, not in a size field.
+    tableView1().setFocus();
 }
 
 void AppDelegate::screenOptions() {

@@ -4,6 +4,7 @@
 #include "customWin/gradationWindow.h"
 #include "customWin/mainWindow.h"
 #include "customWin/searchWindow.h"
+#include "customWin/tableView1/PlanetTableModel.h"
 
 namespace orrery::window {
 namespace {
@@ -50,6 +51,14 @@ void AppDelegate::openSearchWindow() {
         connect(searchWindow_, &FramedWindow::frameSettled, this, &AppDelegate::searchSaveFrame);
         connect(searchWindow_, &FramedWindow::closing, this, &AppDelegate::searchWillClose);
         connect(searchWindow_, &searchWindow::planetChosen, this, &AppDelegate::planetChosen);
+        // The list follows the planets while the window is open.
+        const auto refresh = [this] {
+            if (searchWindow_->isVisible())
+                searchWindow_->refresh();
+        };
+        connect(planetModel_, &QAbstractItemModel::dataChanged, searchWindow_, refresh);
+        connect(planetModel_, &QAbstractItemModel::modelReset, searchWindow_, refresh);
+        connect(planetModel_, &PlanetTableModel::rowCountChanged, searchWindow_, refresh);
     }
     state_.isSearchOpen = true;
     searchWindow_->show();

@@ -104,9 +104,13 @@ void buildWindowAndHelpMenus(QMenuBar& bar, MenuItems& m) {
     m.windowMenu = addMenu(bar, "windowMenu");
     m.windowMinimize = addItem(*m.windowMenu, "windowMinimize", QKeySequence(QStringLiteral("Ctrl+M")));
     m.windowZoom = addItem(*m.windowMenu, "windowZoom");
-    m.windowFullScreen = addItem(*m.windowMenu, "windowFullScreen", QKeySequence::FullScreen);
-    if (m.windowFullScreen->shortcut().isEmpty())
-        m.windowFullScreen->setShortcut(QKeySequence(Qt::Key_F11));
+    m.windowFullScreen = addItem(*m.windowMenu, "windowFullScreen");
+    // F11 everywhere, and the desktop's own key where that is another one (Ctrl+F11).
+    QList<QKeySequence> fullScreenKeys{QKeySequence(Qt::Key_F11)};
+    for (const QKeySequence& keys : QKeySequence::keyBindings(QKeySequence::FullScreen))
+        if (!fullScreenKeys.contains(keys))
+            fullScreenKeys.append(keys);
+    m.windowFullScreen->setShortcuts(fullScreenKeys);
     m.windowFullScreen->setCheckable(true);
     m.windowMenu->addSeparator();
     m.windowGradation = addItem(*m.windowMenu, "windowGradation");

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QSurfaceFormat>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -40,7 +41,6 @@ int runWindow(int argc, char** argv) {
     useSceneSurfaceFormat();
     QApplication application(argc, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("orrery"));
-    QApplication::setWindowIcon(artwork::applicationIcon());
     translations::install(application, QLocale());
     applyAppStyle(application);
     announceWindowsAsWindows();
@@ -51,6 +51,9 @@ int runWindow(int argc, char** argv) {
     QObject::connect(&delegate.window(), &mainWindow::closing, &application, &QApplication::quit,
                      Qt::QueuedConnection);
     delegate.applicationWillFinishLaunching();
+    // Looking the icon up in the desktop's theme takes a while: after the first frame.
+    QTimer::singleShot(0, &application,
+                       [] { QApplication::setWindowIcon(artwork::applicationIcon()); });
     delegate.openFiles(QCoreApplication::arguments().mid(1));
     return QApplication::exec();
 }

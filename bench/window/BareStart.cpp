@@ -2,12 +2,12 @@
 #include "core/app/ScreenFit.h"
 #include "customWin/mainView.h"
 
+#include "customWin/WindowMain.h"
 #include <QApplication>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
 #include <QOpenGLWidget>
 #include <QScreen>
-#include <QSurfaceFormat>
 
 namespace orrery::bench {
 namespace {
@@ -46,13 +46,8 @@ private:
 
 int runBareStart(int argc, char** argv, Clock::time_point start) {
     // The format the main window asks for.
-    QSurfaceFormat format;
-    format.setRenderableType(QSurfaceFormat::OpenGL);
-    format.setProfile(QSurfaceFormat::CoreProfile);
-    format.setVersion(3, 3);
-    format.setAlphaBufferSize(8);
-    format.setDepthBufferSize(24);
-    QSurfaceFormat::setDefaultFormat(format);
+    // The same surface as the window's scene, so that only the window differs.
+    window::useSceneSurfaceFormat();
 
     QApplication application(argc, argv);
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();

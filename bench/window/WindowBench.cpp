@@ -29,9 +29,16 @@ int runChildMode(int argc, char** argv) {
     return 2;
 }
 
-double median(std::vector<double> values) {
+// The median and the best of a few samples; on a shared machine the best shows the cost
+// without other load.
+struct Spread {
+    double median = 0.0;
+    double best = 0.0;
+};
+
+Spread spread(std::vector<double> values) {
     std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
+    return {values[values.size() / 2], values.front()};
 }
 
 double number(const Figures& figures, const char* key) {
@@ -55,13 +62,16 @@ bool startTimes() {
         bare.push_back(number(*bareRun, "ms"));
         window.push_back(number(*windowRun, "ms"));
     }
-    const double bareMs = median(bare);
-    const double windowMs = median(window);
-    std::printf("Start to first painted frame, median of %d cold starts (from fork)\n", kStarts);
-    std::printf("  bare window with one QOpenGLWidget   %7.1f ms\n", bareMs);
-    std::printf("  main window, fresh settings          %7.1f ms\n", windowMs);
-    std::printf("  ratio                                %7.2f      goal: at most %.1f\n\n",
-                windowMs / bareMs, kStartRatioGoal);
+    const Spread bareMs = spread(bare);
+    const Spread windowMs = spread(window);
+    std::printf("Start to first painted frame, median (best) of %d cold starts from fork\n",
+                kStarts);
+    std::printf("  bare window with one QOpenGLWidget  %7.1f ms (%.1f)\n", bareMs.median,
+                bareMs.best);
+    std::printf("  main window, fresh settings         %7.1f ms (%.1f)\n", windowMs.median,
+                windowMs.best);
+    std::printf("  ratio                               %7.2f    (%.2f)   goal: at most %.1f\n\n",
+                windowMs.median / bareMs.median, windowMs.best / bareMs.best, kStartRatioGoal);
     return true;
 }
 
@@ -71,10 +81,10 @@ bool dragRate(int planets) {
         std::fprintf(stderr, "bench_window: the drag among %d planets failed\n", planets);
         return false;
     }
-    std::printf("  %5d planets, covering %4.2f         %7.1f fps     goal: at least %.0f"
-                "   (%.0f frames, slowest %.1f ms)\n",
+    std::printf("  %5d planets, covering %4.2f  %7.1f fps   goal: at least %.0f   (%.0f frames, "
+                "slowest %.1f ms, processor %.1f ms a frame)\n",
                 planets, number(*run, "coverage"), number(*run, "fps"), kDragFpsGoal,
-                number(*run, "frames"), number(*run, "worst_ms"));
+                number(*run, "frames"), number(*run, "worst_ms"), number(*run, "cpu_ms"));
     if (number(*run, "moves") == 0)
         std::printf("  (the planet did not move: the press missed it)\n");
     if (number(*run, "fits") == 0)

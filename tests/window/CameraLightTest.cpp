@@ -26,17 +26,11 @@ void retype(QLineEdit& field, const char* text) {
 
 } // namespace
 
-class CameraLightTest : public QObject {
+class CameraLightTest : public FreshWindowSuite {
     Q_OBJECT
 private slots:
-    void init() {
-        app_ = std::make_unique<FreshStart>();
-        app_->start();
-    }
-    void cleanup() { app_.reset(); }
-
     void theCameraRecordsWhatItIsGivenButOnlyMoves() {
-        mainWindow& window = app_->delegate().window();
+        mainWindow& window = app().window();
         QTest::mouseClick(&child<QPushButton>(window, "cameraButton5"), Qt::LeftButton);
         auto& popover = child<CameraPopover>(window, "popOver5");
         QTRY_VERIFY(popover.isVisible());
@@ -59,27 +53,27 @@ private slots:
         QVERIFY(isRed(popover.xfovField5()));
         QCOMPARE(settings()[0], std::string("45.0"));
 
-        const QImage before = app_->delegate().sceneview().grabFramebuffer();
+        const QImage before = app().sceneview().grabFramebuffer();
         retype(popover.xfovField5(), "60");
         QCOMPARE(settings()[0], std::string("60.0"));
-        QCOMPARE(app_->delegate().sceneview().grabFramebuffer(), before);
+        QCOMPARE(app().sceneview().grabFramebuffer(), before);
         // Typing into one field is one step to undo.
         window.setFocus();
-        app_->delegate().menus().editUndo->trigger();
+        app().menus().editUndo->trigger();
         QCOMPARE(settings()[0], std::string("45.0"));
     }
 
     void theLightDefaultShowsFiftyUntilThePopoverOpensAgain() {
-        mainWindow& window = app_->delegate().window();
+        mainWindow& window = app().window();
         auto& button = child<QPushButton>(window, "lightButton4");
         QTest::mouseClick(&button, Qt::LeftButton);
         auto& popover = child<LightPopover>(window, "popOver4");
         QTRY_VERIFY(popover.isVisible());
         retype(popover.xField4(), "12");
-        QCOMPARE(app_->delegate().sceneview().scene().getLightPosition().x, 12.0);
+        QCOMPARE(app().sceneview().scene().getLightPosition().x, 12.0);
         QTest::mouseClick(&popover.defaultButton4(), Qt::LeftButton);
         QCOMPARE(popover.zField4().text(), QStringLiteral("50.000000"));
-        QCOMPARE(app_->delegate().sceneview().scene().getLightPosition(), (Vec3{0, 0, 100}));
+        QCOMPARE(app().sceneview().scene().getLightPosition(), (Vec3{0, 0, 100}));
         QTest::mouseClick(&button, Qt::LeftButton); // closes
         QTest::mouseClick(&button, Qt::LeftButton); // opens
         QTRY_VERIFY(popover.isVisible());
@@ -87,25 +81,21 @@ private slots:
     }
 
     void aPopoverClosedByAClickOutsideNeedsTwoClicksToOpenAgain() {
-        auto& button = child<QPushButton>(app_->delegate().window(), "cameraButton5");
-        auto& popover = child<CameraPopover>(app_->delegate().window(), "popOver5");
+        auto& button = child<QPushButton>(app().window(), "cameraButton5");
+        auto& popover = child<CameraPopover>(app().window(), "popOver5");
         QTest::mouseClick(&button, Qt::LeftButton);
         QTRY_VERIFY(popover.isVisible());
         popover.close(); // as a click elsewhere closes it
-        QVERIFY(app_->delegate().state().popover5shown);
-        app_->delegate().show1bClicked();
+        QVERIFY(app().state().popover5shown);
+        app().show1bClicked();
         QVERIFY(!popover.isVisible());
-        QVERIFY(!app_->delegate().state().popover5shown);
-        app_->delegate().show1bClicked();
+        QVERIFY(!app().state().popover5shown);
+        app().show1bClicked();
         QVERIFY(popover.isVisible());
     }
 
 private:
-    std::vector<std::string> settings() {
-        return app_->delegate().sceneview().scene().getCameraSettings();
-    }
-
-    std::unique_ptr<FreshStart> app_;
+    std::vector<std::string> settings() { return app().sceneview().scene().getCameraSettings(); }
 };
 
 std::unique_ptr<QObject> makeCameraLightTest() {

@@ -24,17 +24,11 @@ bool isRed(const QLineEdit& field) {
 
 } // namespace
 
-class ChromeTest : public QObject {
+class ChromeTest : public FreshWindowSuite {
     Q_OBJECT
 private slots:
-    void init() {
-        app_ = std::make_unique<FreshStart>();
-        app_->start();
-    }
-    void cleanup() { app_.reset(); }
-
     void sizeFieldsResizeTheWindowAroundTheDocumentOrTurnRed() {
-        mainWindow& window = app_->delegate().window();
+        mainWindow& window = app().window();
         auto& width = child<QLineEdit>(window, "widthField1");
         auto& height = child<QLineEdit>(window, "heightField1");
         const QSize before = window.size();
@@ -58,7 +52,7 @@ private slots:
     }
 
     void hoveringOneWindowButtonLightsAllThree() {
-        mainWindow& window = app_->delegate().window();
+        mainWindow& window = app().window();
         auto& close = child<ImageButton>(window, "closeButton0");
         auto& minimise = child<ImageButton>(window, "minButton0");
         auto& zoom = child<ImageButton>(window, "maxButton0");
@@ -74,7 +68,7 @@ private slots:
     }
 
     void fullScreenHidesTheTitleBarAndShowsTheLargerDocument() {
-        mainWindow& window = app_->delegate().window();
+        mainWindow& window = app().window();
         auto& full = child<ImageButton>(window, "fullButton0");
         QTest::mouseClick(&full, Qt::LeftButton);
         // The window manager carries it out, in its own time on a busy machine.
@@ -86,7 +80,7 @@ private slots:
         QTRY_COMPARE(child<QLineEdit>(window, "widthField1").text(), QStringLiteral("1878"));
         QCOMPARE(child<QLineEdit>(window, "heightField1").text(), QStringLiteral("844"));
 
-        app_->delegate().menus().windowFullScreen->trigger();
+        app().menus().windowFullScreen->trigger();
         QTRY_VERIFY_WITH_TIMEOUT(!window.isFullScreen(), 20000);
         QTRY_COMPARE_WITH_TIMEOUT(child<QLineEdit>(window, "widthField1").text(),
                                   QStringLiteral("960"), 20000);
@@ -94,9 +88,6 @@ private slots:
         QVERIFY(child<QLabel>(window, "titleLabel0").isVisible());
         QVERIFY(full.isVisible());
     }
-
-private:
-    std::unique_ptr<FreshStart> app_;
 };
 
 std::unique_ptr<QObject> makeChromeTest() {

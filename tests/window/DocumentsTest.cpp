@@ -24,13 +24,6 @@
 namespace orrery::window::testing {
 namespace {
 
-QWidget* visibleTopLevel(const char* name) {
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->objectName() == QLatin1String(name) && window->isVisible())
-            return window;
-    return nullptr;
-}
-
 QByteArray runOrrery(const QStringList& arguments) {
     QProcess orrery;
     orrery.start(QStringLiteral(ORRERY_EXECUTABLE), arguments);
@@ -40,27 +33,21 @@ QByteArray runOrrery(const QStringList& arguments) {
 
 } // namespace
 
-class DocumentsTest : public QObject {
+class DocumentsTest : public FreshWindowSuite {
     Q_OBJECT
 private slots:
-    void init() {
-        app_ = std::make_unique<FreshStart>();
-        app_->start();
-    }
-    void cleanup() { app_.reset(); }
-
     void aSavedPackageReadsBackThroughTheCommandLine() {
-        AppDelegate& app = app_->delegate();
-        app.editor().createPlanet("1424700000", "Terra");
-        app.editor().editText(0, PlanetKey::radius, "31.5");
-        app.editor().editIndex(0, PlanetKey::surfaceindex, 7);
-        app.editor().setCamera(60, 45, 10, -5, 400, false, true);
-        app.reloadPlanets();
-        app.setSceneBackground(4);
+        AppDelegate& delegate = app();
+        delegate.editor().createPlanet("1424700000", "Terra");
+        delegate.editor().editText(0, PlanetKey::radius, "31.5");
+        delegate.editor().editIndex(0, PlanetKey::surfaceindex, 7);
+        delegate.editor().setCamera(60, 45, 10, -5, 400, false, true);
+        delegate.reloadPlanets();
+        delegate.setSceneBackground(4);
         const QString package = folder_.filePath(QStringLiteral("Terra.kvx"));
         saveAs(package);
-        QVERIFY(!app.hasUnsavedChanges());
-        QVERIFY(app.menus().fileSave->isEnabled());
+        QVERIFY(!delegate.hasUnsavedChanges());
+        QVERIFY(delegate.menus().fileSave->isEnabled());
 
         const QJsonObject info = QJsonDocument::fromJson(runOrrery({"info", package})).object();
         QCOMPARE(info["background"].toString(), QStringLiteral("4"));
@@ -77,32 +64,33 @@ private slots:
         const QString package = folder_.filePath(QStringLiteral("Earth.kvx"));
         runOrrery({"convert", QStringLiteral(ORRERY_SOURCE_DIR "/examples/earth-and-moon.json"),
                    package});
-        AppDelegate& app = app_->delegate();
-        app.openFiles({package, folder_.filePath(QStringLiteral("Second.kvx"))});
-        QTRY_COMPARE(app.state().projectpath, package.toStdString());
-        QCOMPARE(app.tableView1().model()->rowCount(), 2);
-        QCOMPARE(app.tableView1().model()->index(0, 0).data().toString(), QStringLiteral("Earth"));
-        QCOMPARE(app.state().currentBackground, 2L);
-        QCOMPARE(app.screenview().currentColor(), 2L);
-        QVERIFY(app.menus().sceneColorItems[2]->isChecked());
-        auto& light = child<LightPopover>(app.window(), "popOver4");
+        AppDelegate& delegate = app();
+        delegate.openFiles({package, folder_.filePath(QStringLiteral("Second.kvx"))});
+        QTRY_COMPARE(delegate.state().projectpath, package.toStdString());
+        QCOMPARE(delegate.tableView1().model()->rowCount(), 2);
+        QCOMPARE(delegate.tableView1().model()->index(0, 0).data().toString(),
+                 QStringLiteral("Earth"));
+        QCOMPARE(delegate.state().currentBackground, 2L);
+        QCOMPARE(delegate.screenview().currentColor(), 2L);
+        QVERIFY(delegate.menus().sceneColorItems[2]->isChecked());
+        auto& light = child<LightPopover>(delegate.window(), "popOver4");
         QCOMPARE(light.xField4().text(), QStringLiteral("-500.000000"));
-        QVERIFY(qFuzzyCompare(app.state().lightColor.blue, 0.96));
-        QVERIFY(child<QLabel>(app.window(), "titleLabel0").text().endsWith(": Earth"));
-        QVERIFY(app.menus().fileSave->isEnabled());
+        QVERIFY(qFuzzyCompare(delegate.state().lightColor.blue, 0.96));
+        QVERIFY(child<QLabel>(delegate.window(), "titleLabel0").text().endsWith(": Earth"));
+        QVERIFY(delegate.menus().fileSave->isEnabled());
     }
 
     void aBrokenPackageLeavesTheSystemAsItWas() {
-        AppDelegate& app = app_->delegate();
-        app.editor().createPlanet("100", "Kept");
-        app.reloadPlanets();
+        AppDelegate& delegate = app();
+        delegate.editor().createPlanet("100", "Kept");
+        delegate.reloadPlanets();
         const QString broken = folder_.filePath(QStringLiteral("Broken.kvx"));
         QDir().mkpath(broken);
         QFile garbage(broken + QStringLiteral("/data2.xml"));
         QVERIFY(garbage.open(QIODevice::WriteOnly));
         garbage.write("not a property list");
         garbage.close();
-        app.openFiles({broken});
+        delegate.openFiles({broken});
         // First the offer to save the unsaved planet, given up here.
         QWidget* question = nullptr;
         QTRY_VERIFY((question = visibleTopLevel("questionSheet")) != nullptr);
@@ -110,15 +98,15 @@ private slots:
         QWidget* alert = nullptr;
         QTRY_VERIFY((alert = visibleTopLevel("questionSheet")) != nullptr && alert != question);
         QVERIFY(static_cast<QMessageBox*>(alert)->informativeText().contains("Broken.kvx"));
-        QCOMPARE(app.state().planetArray.at(0).name, std::string("Kept"));
-        QCOMPARE(app.tableView1().model()->rowCount(), 1);
-        QVERIFY(app.state().projectpath.empty());
+        QCOMPARE(delegate.state().planetArray.at(0).name, std::string("Kept"));
+        QCOMPARE(delegate.tableView1().model()->rowCount(), 1);
+        QVERIFY(delegate.state().projectpath.empty());
     }
 
     void aSaveThatCannotBeWrittenSaysSoAndLosesNothing() {
-        AppDelegate& app = app_->delegate();
-        app.editor().createPlanet("100", "Precious");
-        app.reloadPlanets();
+        AppDelegate& delegate = app();
+        delegate.editor().createPlanet("100", "Precious");
+        delegate.reloadPlanets();
         // A folder that cannot hold the package: its "parent" is a file.
         QFile blocker(folder_.filePath(QStringLiteral("blocker")));
         QVERIFY(blocker.open(QIODevice::WriteOnly));
@@ -127,29 +115,29 @@ private slots:
         QWidget* alert = nullptr;
         QTRY_VERIFY((alert = visibleTopLevel("questionSheet")) != nullptr);
         QVERIFY(static_cast<QMessageBox*>(alert)->informativeText().contains("blocker"));
-        QVERIFY(app.hasUnsavedChanges());
-        QCOMPARE(app.state().planetArray.size(), std::size_t(1));
-        QVERIFY(app.state().projectpath.empty());
+        QVERIFY(delegate.hasUnsavedChanges());
+        QCOMPARE(delegate.state().planetArray.size(), std::size_t(1));
+        QVERIFY(delegate.state().projectpath.empty());
     }
 
     void saveWithoutAPackageAsksWhereAndNewKeepsThePackage() {
-        AppDelegate& app = app_->delegate();
-        QVERIFY(!app.menus().fileSave->isEnabled()); // until the first save or open
-        app.saveProject1();
+        AppDelegate& delegate = app();
+        QVERIFY(!delegate.menus().fileSave->isEnabled()); // until the first save or open
+        delegate.saveProject1();
         QFileDialog* panel = nullptr;
         QTRY_VERIFY((panel = qobject_cast<QFileDialog*>(visibleTopLevel("savePanel"))) != nullptr);
         panel->reject();
         const QString package = folder_.filePath(QStringLiteral("Kept.kvx"));
         saveAs(package);
 
-        app.settings().editData2(4, "1"); // New without asking
-        app.editor().createPlanet("100", "Later");
-        app.reloadPlanets();
-        app.menus().fileNew->trigger();
+        delegate.settings().editData2(4, "1"); // New without asking
+        delegate.editor().createPlanet("100", "Later");
+        delegate.reloadPlanets();
+        delegate.menus().fileNew->trigger();
         QVERIFY(visibleTopLevel("questionSheet") == nullptr);
-        QCOMPARE(app.state().planetArray.size(), std::size_t(0));
+        QCOMPARE(delegate.state().planetArray.size(), std::size_t(0));
         // Save writes over the last package without a panel.
-        app.menus().fileSave->trigger();
+        delegate.menus().fileSave->trigger();
         QTRY_VERIFY(visibleTopLevel("progressSheet") == nullptr);
         QVERIFY(visibleTopLevel("savePanel") == nullptr);
         OpenedProject reread;
@@ -159,7 +147,7 @@ private slots:
 
         // A package deleted meanwhile makes Save ask where again.
         QDir(package).removeRecursively();
-        app.menus().fileSave->trigger();
+        delegate.menus().fileSave->trigger();
         QTRY_VERIFY((panel = qobject_cast<QFileDialog*>(visibleTopLevel("savePanel"))) != nullptr);
         panel->reject();
     }
@@ -167,16 +155,15 @@ private slots:
 private:
     // Save As through its panel, as a person would type the name.
     void saveAs(const QString& path, bool expectSuccess = true) {
-        app_->delegate().menus().fileSaveAs->trigger();
+        app().menus().fileSaveAs->trigger();
         QFileDialog* panel = nullptr;
         QTRY_VERIFY((panel = qobject_cast<QFileDialog*>(visibleTopLevel("savePanel"))) != nullptr);
         chooseInPanel(*panel, path);
         if (expectSuccess)
-            QTRY_COMPARE(app_->delegate().state().projectpath, path.toStdString());
+            QTRY_COMPARE(app().state().projectpath, path.toStdString());
     }
 
     QTemporaryDir folder_;
-    std::unique_ptr<FreshStart> app_;
 };
 
 std::unique_ptr<QObject> makeDocumentsTest() {

@@ -21,13 +21,6 @@
 namespace orrery::window::testing {
 namespace {
 
-QWidget* visibleTopLevel(const char* name) {
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->objectName() == QLatin1String(name) && window->isVisible())
-            return window;
-    return nullptr;
-}
-
 QByteArray contents(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -35,27 +28,25 @@ QByteArray contents(const QString& path) {
 
 } // namespace
 
-class ExportTest : public QObject {
+class ExportTest : public FreshWindowSuite {
     Q_OBJECT
 private slots:
     void init() {
-        app_ = std::make_unique<FreshStart>();
-        app_->start();
-        app_->delegate().editor().createPlanet("100", "Subject");
-        app_->delegate().reloadPlanets();
+        FreshWindowSuite::init();
+        app().editor().createPlanet("100", "Subject");
+        app().reloadPlanets();
     }
-    void cleanup() { app_.reset(); }
 
     void theQuestionStartsOnTheFormatThePreferenceNames() {
         const std::pair<const char*, int> cases[] = {{"0", 4}, {"", 4}, {"3", 2}, {"1", 0}};
         for (const auto& [stored, row] : cases) {
-            app_->delegate().settings().editData1(2, stored);
+            app().settings().editData1(2, stored);
             QWidget* question = ask();
             QCOMPARE(child<QComboBox>(*question, "exportPopup1").currentIndex(), row);
             QTest::mouseClick(&child<QPushButton>(*question, "sheetButton1001"), Qt::LeftButton);
             QTRY_VERIFY(visibleTopLevel("questionSheet") == nullptr);
         }
-        QVERIFY(app_->delegate().menus().fileExport->isEnabled());
+        QVERIFY(app().menus().fileExport->isEnabled());
     }
 
     void aTransparentBackgroundKeepsItsAlpha() {
@@ -71,14 +62,14 @@ private slots:
     }
 
     void compressionZeroWritesAJpegAtEightyFive() {
-        app_->delegate().settings().editData1(3, "0");
-        app_->delegate().settings().editData2(3, "1"); // include the background
-        app_->delegate().setSceneBackground(2);
+        app().settings().editData1(3, "0");
+        app().settings().editData2(3, "1"); // include the background
+        app().setSceneBackground(2);
         QWidget* question = ask();
         QVERIFY(child<QCheckBox>(*question, "includeButton1").isChecked());
         const QString jpeg = exportAs(*question, 2, 85);
 
-        const std::optional<Image> scene = app_->delegate().sceneview().imageFromSceneKitView();
+        const std::optional<Image> scene = app().sceneview().imageFromSceneKitView();
         QVERIFY(scene.has_value());
         const QString expected = folder_.filePath(QStringLiteral("expected.jpg"));
         QCOMPARE(imageio::writeImageFile(exportPicture(*scene, 2, true), expected.toStdString(),
@@ -89,10 +80,10 @@ private slots:
 
     void printingToAFileGivesOneBlankPage() {
         const QString pdf = folder_.filePath(QStringLiteral("page.pdf"));
-        QPrinter& printer = app_->delegate().printer();
+        QPrinter& printer = app().printer();
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(pdf);
-        app_->delegate().menus().filePrint->trigger();
+        app().menus().filePrint->trigger();
         QPrintDialog* dialog = nullptr;
         QTRY_VERIFY((dialog = qobject_cast<QPrintDialog*>(visibleTopLevel("printDialog"))) !=
                     nullptr);
@@ -106,9 +97,11 @@ private slots:
 
 private:
     QWidget* ask() {
-        app_->delegate().menus().fileExport->trigger();
+        app().menus().fileExport->trigger();
         QWidget* question = nullptr;
-        [&] { QTRY_VERIFY((question = visibleTopLevel("questionSheet")) != nullptr); }();
+        [&] {
+            QTRY_VERIFY((question = visibleTopLevel("questionSheet")) != nullptr);
+        }();
         return question;
     }
 
@@ -125,16 +118,19 @@ private:
             return {};
         auto* slider = panel->findChild<QSlider*>(QStringLiteral("compressSlider2"));
         if (expectedSlider >= 0)
-            [&] { QVERIFY(slider != nullptr && slider->value() == expectedSlider); }();
-        const QString path = folder_.filePath(QStringLiteral("picture.%1")
-                                                  .arg(panel->defaultSuffix()));
+            [&] {
+                QVERIFY(slider != nullptr && slider->value() == expectedSlider);
+            }();
+        const QString path =
+            folder_.filePath(QStringLiteral("picture.%1").arg(panel->defaultSuffix()));
         chooseInPanel(*panel, path);
-        [&] { QTRY_VERIFY(QFile::exists(path) && visibleTopLevel("progressSheet") == nullptr); }();
+        [&] {
+            QTRY_VERIFY(QFile::exists(path) && visibleTopLevel("progressSheet") == nullptr);
+        }();
         return path;
     }
 
     QTemporaryDir folder_;
-    std::unique_ptr<FreshStart> app_;
 };
 
 std::unique_ptr<QObject> makeExportTest() {

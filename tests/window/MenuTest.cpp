@@ -29,36 +29,29 @@ QMessageBox* openSheet() {
 
 } // namespace
 
-class MenuTest : public QObject {
+class MenuTest : public FreshWindowSuite {
     Q_OBJECT
 private slots:
-    void init() {
-        app_ = std::make_unique<FreshStart>();
-        app_->start();
-    }
-    void cleanup() { app_.reset(); }
-
     void everyMenuAndItemHasItsTitle() {
-        for (QAction* item : app_->delegate().window().findChildren<QAction*>()) {
+        for (QAction* item : app().window().findChildren<QAction*>()) {
             if (item->isSeparator() || item->objectName().isEmpty())
                 continue;
             QVERIFY2(!item->text().isEmpty(), qPrintable(item->objectName()));
         }
-        QCOMPARE(app_->delegate().menus().appQuit->text(),
-                 QStringLiteral("Quit %1").arg(app_->delegate().readAppname()));
+        QCOMPARE(app().menus().appQuit->text(), QStringLiteral("Quit %1").arg(app().readAppname()));
     }
 
     void aHelpQuestionSwitchesTheGuardedItemsOffAndRestoresThem() {
-        const QList<QAction*> guarded = app_->delegate().menus().guardedItems();
+        const QList<QAction*> guarded = app().menus().guardedItems();
         QCOMPARE(guarded.size(), 19);
         const std::vector<bool> before = enabledStates(guarded);
         QVERIFY(std::count(before.begin(), before.end(), true) > 0);
 
-        app_->delegate().menus().helpUserguide->trigger();
+        app().menus().helpUserguide->trigger();
         QMessageBox* sheet = nullptr;
         QTRY_VERIFY((sheet = openSheet()) != nullptr);
         QCOMPARE(sheet->windowModality(), Qt::WindowModal);
-        QCOMPARE(sheet->frameGeometry().top(), app_->delegate().window().frameGeometry().top() + 25);
+        QCOMPARE(sheet->frameGeometry().top(), app().window().frameGeometry().top() + 25);
         QCOMPARE(enabledStates(guarded), std::vector<bool>(19, false));
         QTest::mouseClick(sheet->findChild<QPushButton*>(QStringLiteral("sheetButton1001")),
                           Qt::LeftButton);
@@ -67,7 +60,7 @@ private slots:
     }
 
     void backgroundItemsKeepExactlyOneCheckMark() {
-        const MenuItems& menus = app_->delegate().menus();
+        const MenuItems& menus = app().menus();
         menus.sceneColorItems[2]->trigger();
         menus.sceneColorItems[1]->trigger();
         int checked = 0;
@@ -75,22 +68,19 @@ private slots:
             checked += item->isChecked() ? 1 : 0;
         QCOMPARE(checked, 1);
         QVERIFY(menus.sceneColorItems[1]->isChecked());
-        QCOMPARE(app_->delegate().state().currentBackground, 1L);
-        QCOMPARE(app_->delegate().screenview().currentColor(), 1L);
+        QCOMPARE(app().state().currentBackground, 1L);
+        QCOMPARE(app().screenview().currentColor(), 1L);
     }
 
     void hideAxesTwiceReturnsToTheStart() {
-        QAction& item = *app_->delegate().menus().sceneHideaxes;
-        screenView& backdrop = app_->delegate().screenview();
-        QVERIFY(!item.isChecked() && backdrop.showsAxes() && !app_->delegate().state().axesHiden);
+        QAction& item = *app().menus().sceneHideaxes;
+        screenView& backdrop = app().screenview();
+        QVERIFY(!item.isChecked() && backdrop.showsAxes() && !app().state().axesHiden);
         item.trigger();
-        QVERIFY(item.isChecked() && !backdrop.showsAxes() && app_->delegate().state().axesHiden);
+        QVERIFY(item.isChecked() && !backdrop.showsAxes() && app().state().axesHiden);
         item.trigger();
-        QVERIFY(!item.isChecked() && backdrop.showsAxes() && !app_->delegate().state().axesHiden);
+        QVERIFY(!item.isChecked() && backdrop.showsAxes() && !app().state().axesHiden);
     }
-
-private:
-    std::unique_ptr<FreshStart> app_;
 };
 
 std::unique_ptr<QObject> makeMenuTest() {

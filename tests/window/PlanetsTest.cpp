@@ -18,28 +18,13 @@
 #include <QToolButton>
 
 namespace orrery::window::testing {
-namespace {
+namespace {} // namespace
 
-QWidget* visibleTopLevel(const char* name) {
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->objectName() == QLatin1String(name) && window->isVisible())
-            return window;
-    return nullptr;
-}
-
-} // namespace
-
-class PlanetsTest : public QObject {
+class PlanetsTest : public FreshWindowSuite {
     Q_OBJECT
 private slots:
-    void init() {
-        app_ = std::make_unique<FreshStart>();
-        app_->start();
-    }
-    void cleanup() { app_.reset(); }
-
     void theCreationSheetTakesANameWithItsSpaces() {
-        mainWindow& window = app_->delegate().window();
+        mainWindow& window = app().window();
         QTest::mouseClick(&child<QPushButton>(window, "createPlanetButton1"), Qt::LeftButton);
         QWidget* sheet = nullptr;
         QTRY_VERIFY((sheet = visibleTopLevel("planetAddSheet")) != nullptr);
@@ -55,45 +40,45 @@ private slots:
         QTest::mouseClick(&create, Qt::LeftButton);
         QTRY_VERIFY(visibleTopLevel("planetAddSheet") == nullptr);
 
-        const PlanetList& planets = app_->delegate().state().planetArray;
+        const PlanetList& planets = app().state().planetArray;
         QCOMPARE(planets.size(), std::size_t(1));
         QCOMPARE(planets.at(0).name, std::string(" a "));
         QCOMPARE(planets.at(0).color, kPureBlue);
-        QCOMPARE(app_->delegate().tableView1().model()->rowCount(), 1);
+        QCOMPARE(app().tableView1().model()->rowCount(), 1);
         QVERIFY(child<QCheckBox>(window, "allButton1").isEnabled());
-        QVERIFY(app_->delegate().menus().fileExport->isEnabled());
+        QVERIFY(app().menus().fileExport->isEnabled());
         QVERIFY(!child<QPushButton>(window, "deletePlanetButton1").isEnabled());
         // The menus are back as they were before the sheet.
-        QVERIFY(app_->delegate().menus().planetCreate->isEnabled());
+        QVERIFY(app().menus().planetCreate->isEnabled());
     }
 
     void cellsStoreOnlyValuesThatPassAndKeepTheFocus() {
         createPlanets(1);
-        PlanetTable& table = app_->delegate().tableView1();
+        PlanetTable& table = app().tableView1();
         table.selectRow(0);
-        QVERIFY(child<QPushButton>(app_->delegate().window(), "deletePlanetButton1").isEnabled());
+        QVERIFY(child<QPushButton>(app().window(), "deletePlanetButton1").isEnabled());
         auto* radius = qobject_cast<QLineEdit*>(table.control(PlanetColumn::radius));
         QVERIFY(radius != nullptr);
         type(*radius, "0.09", Qt::Key_Return);
-        QVERIFY(child<QLabel>(app_->delegate().window(), "statusLabel1").isVisible());
+        QVERIFY(child<QLabel>(app().window(), "statusLabel1").isVisible());
         QCOMPARE(record(0).radius, std::string("24"));
         QCOMPARE(radius->text(), QStringLiteral("0.09"));
         type(*radius, "0.1", Qt::Key_Return);
         QCOMPARE(record(0).radius, std::string("0.1"));
         // The row stays selected, but Delete is off until the selection changes.
         QCOMPARE(table.selectedRow(), std::optional<std::size_t>(0));
-        QVERIFY(!child<QPushButton>(app_->delegate().window(), "deletePlanetButton1").isEnabled());
+        QVERIFY(!child<QPushButton>(app().window(), "deletePlanetButton1").isEnabled());
 
         auto* name = qobject_cast<QLineEdit*>(table.control(PlanetColumn::name));
         type(*name, "Vesta", Qt::Key_Tab);
         QCOMPARE(record(0).name, std::string("Vesta"));
         QCOMPARE(QApplication::focusWidget(), name);
-        QTRY_VERIFY(!child<QLabel>(app_->delegate().window(), "statusLabel1").isVisible());
+        QTRY_VERIFY(!child<QLabel>(app().window(), "statusLabel1").isVisible());
     }
 
     void onlyTheSelectedRowHasLiveControls() {
         createPlanets(2);
-        PlanetTable& table = app_->delegate().tableView1();
+        PlanetTable& table = app().tableView1();
         table.selectRow(0);
         const QRect stateCell =
             table.visualRect(table.model()->index(1, static_cast<int>(PlanetColumn::state)));
@@ -115,58 +100,55 @@ private slots:
 
     void deletingAsksUnlessTheSettingSaysNot() {
         createPlanets(2);
-        mainWindow& window = app_->delegate().window();
-        app_->delegate().tableView1().selectRow(0);
+        mainWindow& window = app().window();
+        app().tableView1().selectRow(0);
         QTest::mouseClick(&child<QPushButton>(window, "deletePlanetButton1"), Qt::LeftButton);
         QWidget* question = nullptr;
         QTRY_VERIFY((question = visibleTopLevel("questionSheet")) != nullptr);
         QTest::mouseClick(&child<QPushButton>(*question, "sheetButton1001"), Qt::LeftButton);
         QTRY_VERIFY(visibleTopLevel("questionSheet") == nullptr);
-        QCOMPARE(app_->delegate().state().planetArray.size(), std::size_t(2));
+        QCOMPARE(app().state().planetArray.size(), std::size_t(2));
 
-        app_->delegate().settings().editData2(2, "1");
-        app_->delegate().menus().planetDelete->trigger();
-        QCOMPARE(app_->delegate().state().planetArray.size(), std::size_t(1));
+        app().settings().editData2(2, "1");
+        app().menus().planetDelete->trigger();
+        QCOMPARE(app().state().planetArray.size(), std::size_t(1));
         QVERIFY(visibleTopLevel("questionSheet") == nullptr);
-        app_->delegate().tableView1().selectRow(0);
-        app_->delegate().menus().planetDelete->trigger();
-        QCOMPARE(app_->delegate().tableView1().model()->rowCount(), 0);
+        app().tableView1().selectRow(0);
+        app().menus().planetDelete->trigger();
+        QCOMPARE(app().tableView1().model()->rowCount(), 0);
         QVERIFY(!child<QCheckBox>(window, "allButton1").isEnabled());
         QVERIFY(!child<QPushButton>(window, "deletePlanetButton1").isEnabled());
-        QVERIFY(!app_->delegate().menus().fileExport->isEnabled());
+        QVERIFY(!app().menus().fileExport->isEnabled());
     }
 
     void theSceneSelectsAndDragsAndUndoPutsItBack() {
         createPlanets(2);
-        sceneView& scene = app_->delegate().sceneview();
-        app_->delegate().tableView1().selectRow(0);
-        auto* x = qobject_cast<QLineEdit*>(app_->delegate().tableView1().control(PlanetColumn::x));
+        sceneView& scene = app().sceneview();
+        app().tableView1().selectRow(0);
+        auto* x = qobject_cast<QLineEdit*>(app().tableView1().control(PlanetColumn::x));
         type(*x, "-200", Qt::Key_Return);
         const QPoint centre(scene.width() / 2, scene.height() / 2);
         QTest::mousePress(&scene, Qt::LeftButton, {}, centre);
-        QCOMPARE(app_->delegate().tableView1().selectedRow(), std::optional<std::size_t>(1));
+        QCOMPARE(app().tableView1().selectedRow(), std::optional<std::size_t>(1));
         for (int step = 1; step <= 5; ++step)
             QTest::mouseMove(&scene, centre + QPoint(20 * step, 0));
         QTest::mouseRelease(&scene, Qt::LeftButton, {}, centre + QPoint(100, 0));
         QVERIFY(std::stod(record(1).xvalue) > 50.0);
-        QCOMPARE(app_->delegate().tableView1().model()->index(1, 4).data().toString(),
+        QCOMPARE(app().tableView1().model()->index(1, 4).data().toString(),
                  QString::fromStdString(record(1).xvalue));
 
-        app_->delegate().window().setFocus();
-        app_->delegate().menus().editUndo->trigger(); // the whole drag
+        app().window().setFocus();
+        app().menus().editUndo->trigger(); // the whole drag
         QCOMPARE(record(1).xvalue, std::string("0"));
-        app_->delegate().menus().editUndo->trigger(); // the typed x
+        app().menus().editUndo->trigger(); // the typed x
         QCOMPARE(record(0).xvalue, std::string("0"));
-        app_->delegate().menus().editRedo->trigger();
+        app().menus().editRedo->trigger();
         QCOMPARE(record(0).xvalue, std::string("-200"));
-        QCOMPARE(app_->delegate().tableView1().model()->index(0, 4).data().toString(),
-                 QStringLiteral("-200"));
+        QCOMPARE(app().tableView1().model()->index(0, 4).data().toString(), QStringLiteral("-200"));
     }
 
 private:
-    const PlanetRecord& record(std::size_t row) {
-        return app_->delegate().state().planetArray.at(row);
-    }
+    const PlanetRecord& record(std::size_t row) { return app().state().planetArray.at(row); }
 
     void type(QLineEdit& field, const char* text, Qt::Key command) {
         field.setFocus();
@@ -178,12 +160,10 @@ private:
     // Planets with distinct identities, as if made a second apart.
     void createPlanets(int count) {
         for (int i = 0; i < count; ++i)
-            app_->delegate().editor().createPlanet(std::to_string(1000 + i),
-                                                   "Planet " + std::to_string(i + 1));
-        app_->delegate().reloadPlanets();
+            app().editor().createPlanet(std::to_string(1000 + i),
+                                        "Planet " + std::to_string(i + 1));
+        app().reloadPlanets();
     }
-
-    std::unique_ptr<FreshStart> app_;
 };
 
 std::unique_ptr<QObject> makePlanetsTest() {

@@ -2,6 +2,7 @@
 
 #include "customWin/mainWindow.h"
 
+#include <QApplication>
 #include <QCoreApplication>
 #include <QLineEdit>
 #include <QScreen>
@@ -39,6 +40,18 @@ void FreshStart::restart() {
     delegate_.reset();
     delegate_ = std::make_unique<AppDelegate>();
     start();
+}
+
+void FreshWindowSuite::init() {
+    start_ = std::make_unique<FreshStart>();
+    start_->start();
+}
+
+QWidget* visibleTopLevel(const char* name) {
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->objectName() == QLatin1String(name) && window->isVisible())
+            return window;
+    return nullptr;
 }
 
 void chooseInPanel(QDialog& panel, const QString& path) {

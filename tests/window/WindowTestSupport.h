@@ -2,8 +2,8 @@
 
 #include "customWin/AppDelegate.h"
 
-#include <QTemporaryDir>
 #include <QDialog>
+#include <QTemporaryDir>
 #include <QWidget>
 
 #include <memory>
@@ -32,8 +32,25 @@ private:
     std::unique_ptr<AppDelegate> delegate_;
 };
 
-template <typename T>
-T& child(QWidget& window, const char* name) {
+// A suite whose every test starts with the window of a first start.
+class FreshWindowSuite : public QObject {
+    Q_OBJECT
+protected:
+    AppDelegate& app() { return start_->delegate(); }
+    FreshStart& start() { return *start_; }
+
+protected slots:
+    void init();
+    void cleanup() { start_.reset(); }
+
+private:
+    std::unique_ptr<FreshStart> start_;
+};
+
+// The visible top-level window (a sheet, a panel) of that name, or null.
+QWidget* visibleTopLevel(const char* name);
+
+template <typename T> T& child(QWidget& window, const char* name) {
     T* found = window.findChild<T*>(QLatin1String(name));
     if (found == nullptr)
         qFatal("no %s named %s", T::staticMetaObject.className(), name);

@@ -14,14 +14,10 @@
 int main(int argc, char** argv) {
     using namespace orrery::window::testing;
     const std::map<std::string, std::function<std::unique_ptr<QObject>()>> suites{
-        {"Startup", makeStartupTest},
-        {"Chrome", makeChromeTest},
-        {"Menu", makeMenuTest},
-        {"Scene", makeSceneTest},
-        {"Planets", makePlanetsTest},
-        {"CameraLight", makeCameraLightTest},
-        {"Documents", makeDocumentsTest},
-        {"Export", makeExportTest}};
+        {"Startup", makeStartupTest},     {"Chrome", makeChromeTest},
+        {"Menu", makeMenuTest},           {"Scene", makeSceneTest},
+        {"Planets", makePlanetsTest},     {"CameraLight", makeCameraLightTest},
+        {"Documents", makeDocumentsTest}, {"Export", makeExportTest}};
     const auto suite = argc > 1 ? suites.find(argv[1]) : suites.end();
     if (suite == suites.end()) {
         std::fprintf(stderr, "usage: %s SUITE [Qt Test options]\n", argv[0]);
