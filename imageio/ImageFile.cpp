@@ -10,6 +10,8 @@
 #include <QFileInfo>
 #include <QImageReader>
 
+#include <span>
+
 namespace orrery::imageio {
 namespace {
 
@@ -49,15 +51,17 @@ std::optional<Image> readImageFile(const std::string& path, std::string& error) 
         return std::nullopt;
     }
     QByteArray bytes = file.readAll();
-    std::vector<std::uint8_t> data(bytes.begin(), bytes.end());
+    const std::span<const std::uint8_t> data(
+        reinterpret_cast<const std::uint8_t*>(bytes.constData()),
+        static_cast<std::size_t>(bytes.size()));
     // Qt has no JPEG 2000 reader; OpenJPEG reads what we write.
     if (looksLikeJpeg2000(data))
-        return decodeJpeg2000(std::move(data), error);
+        return decodeJpeg2000(std::vector<std::uint8_t>(data.begin(), data.end()), error);
 
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
-    const std::optional<Image> image = imageFromQImage(reader.read());
+    std::optional<Image> image = imageFromQImage(reader.read());
     if (!image)
         error = "not a readable picture (" + reader.errorString().toStdString() + ")";
     return image;

@@ -18,12 +18,12 @@ constexpr std::array<std::uint8_t, 4> kCodestreamStart{0xFF, 0x4F, 0xFF, 0x51};
 // allocate gigabytes for a few bytes of file.
 constexpr std::uint64_t kMaxPixels = 32'000'000;
 
-bool startsWith(const std::vector<std::uint8_t>& bytes, const std::uint8_t* prefix,
+bool startsWith(std::span<const std::uint8_t> bytes, const std::uint8_t* prefix,
                 std::size_t length) {
     return bytes.size() >= length && std::equal(prefix, prefix + length, bytes.begin());
 }
 
-bool isJp2(const std::vector<std::uint8_t>& bytes) {
+bool isJp2(std::span<const std::uint8_t> bytes) {
     return startsWith(bytes, kJp2Signature.data(), kJp2Signature.size());
 }
 
@@ -64,7 +64,7 @@ Image toImage(const opj_image_t& decoded) {
 
 } // namespace
 
-bool looksLikeJpeg2000(const std::vector<std::uint8_t>& bytes) {
+bool looksLikeJpeg2000(std::span<const std::uint8_t> bytes) {
     return isJp2(bytes) || startsWith(bytes, kCodestreamStart.data(), kCodestreamStart.size());
 }
 

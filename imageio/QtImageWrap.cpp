@@ -9,13 +9,13 @@ QImage wrapImage(const Image& image) {
                   static_cast<qsizetype>(image.stride()), QImage::Format_RGBA8888);
 }
 
-std::optional<Image> imageFromQImage(const QImage& source) {
+std::optional<Image> imageFromQImage(QImage source) {
     if (source.isNull())
         return std::nullopt;
-    const QImage rgba = source.convertToFormat(QImage::Format_RGBA8888);
-    Image image(rgba.width(), rgba.height());
+    source.convertTo(QImage::Format_RGBA8888);
+    Image image(source.width(), source.height());
     for (int y = 0; y < image.height; ++y)
-        std::memcpy(image.pixel(0, y), rgba.constScanLine(y), image.stride());
+        std::memcpy(image.pixel(0, y), source.constScanLine(y), image.stride());
     return image;
 }
 

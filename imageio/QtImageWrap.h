@@ -12,6 +12,7 @@ namespace orrery::imageio {
 QImage wrapImage(const Image& image);
 
 // A deep copy of any QImage as straight-alpha RGBA, top row first; none for a null image.
-std::optional<Image> imageFromQImage(const QImage& image);
+// An image passed in alone (not shared) is converted in place, without a second copy.
+std::optional<Image> imageFromQImage(QImage image);
 
 } // namespace orrery::imageio

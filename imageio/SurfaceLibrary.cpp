@@ -9,22 +9,15 @@
 namespace orrery::imageio {
 namespace {
 
-using PathOf = std::optional<std::filesystem::path> (*)(long);
-
-// A miss is cached too, so a missing file is looked for once, not at every redraw.
-const Image* cached(std::map<long, std::optional<Image>>& cache, long index, PathOf pathOf) {
-    auto found = cache.find(index);
-    if (found == cache.end()) {
-        std::optional<Image> image;
-        if (const auto path = pathOf(index)) {
-            std::string error;
-            image = readImageFile(path->string(), error);
-            if (!image)
-                logMessage(path->string() + ": " + error);
-        }
-        found = cache.emplace(index, std::move(image)).first;
-    }
-    return found->second ? &*found->second : nullptr;
+// The image at the path, if any; a file that exists but cannot be read is logged.
+std::optional<Image> decoded(const std::optional<std::filesystem::path>& path) {
+    if (!path)
+        return std::nullopt;
+    std::string error;
+    std::optional<Image> image = readImageFile(path->string(), error);
+    if (!image)
+        logMessage(path->string() + ": " + error);
+    return image;
 }
 
 // The index of "Surface" followed by digits; none for any other name.
@@ -43,17 +36,21 @@ std::optional<long> surfaceIndexOf(std::string_view name) {
 
 } // namespace
 
-const Image* SurfaceLibrary::surfaceNamed(std::string_view name) {
-    const std::optional<long> index = surfaceIndexOf(name);
-    return index ? surface(*index) : nullptr;
+std::optional<Image> SurfaceLibrary::surface(long index) const {
+    return decoded(surfaceImagePath(index));
 }
 
-const Image* SurfaceLibrary::surface(long index) {
-    return cached(surfaces_, index, surfaceImagePath);
+std::optional<Image> SurfaceLibrary::surfaceNamed(std::string_view name) const {
+    const std::optional<long> index = surfaceIndexOf(name);
+    return index ? surface(*index) : std::nullopt;
 }
 
 const Image* SurfaceLibrary::thumbnail(long index) {
-    return cached(thumbnails_, index, surfaceThumbnailPath);
+    // A miss is kept too, so a missing file is looked for once, not at every redraw.
+    auto found = thumbnails_.find(index);
+    if (found == thumbnails_.end())
+        found = thumbnails_.emplace(index, decoded(surfaceThumbnailPath(index))).first;
+    return found->second ? &*found->second : nullptr;
 }
 
 } // namespace orrery::imageio

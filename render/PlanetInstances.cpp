@@ -3,7 +3,9 @@
 #include "render/ColorSpace.h"
 #include "render/GradientRamps.h"
 
-#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstdint>
 #include <variant>
 
 namespace orrery::render {
@@ -46,10 +48,46 @@ PlanetInstance instanceOf(const Sphere& sphere, Vec3 center, const SurfaceLayerL
 
 // The power of the eye with respect to the sphere. For spheres that do not intersect, the
 // one with the smaller power lies on the eye's side of their radical plane, which
-// separates them: any ray from the eye meets it first. Ties keep scene order.
+// separates them: any ray from the eye meets it first.
 float power(const PlanetInstance& planet) {
     const float* c = planet.center;
     return c[0] * c[0] + c[1] * c[1] + c[2] * c[2] - planet.radius * planet.radius;
+}
+
+// A key whose unsigned order is the descending order of the power: the bits of a float
+// order like the number once negative values have all their bits flipped and positive
+// ones their sign bit.
+std::uint32_t farthestFirstKey(const PlanetInstance& planet) {
+    const std::uint32_t bits = std::bit_cast<std::uint32_t>(power(planet));
+    const std::uint32_t ascending = (bits & 0x80000000u) != 0 ? ~bits : bits | 0x80000000u;
+    return ~ascending;
+}
+
+// Farthest first, ties in scene order: a least-significant-digit radix sort, stable and
+// linear in the number of planets.
+void sortFarthestFirst(std::vector<PlanetInstance>& instances) {
+    struct Keyed {
+        std::uint32_t key;
+        std::uint32_t index;
+    };
+    std::vector<Keyed> order(instances.size());
+    for (std::size_t i = 0; i < instances.size(); ++i)
+        order[i] = {farthestFirstKey(instances[i]), static_cast<std::uint32_t>(i)};
+    std::vector<Keyed> sorted(order.size());
+    for (unsigned shift = 0; shift < 32; shift += 8) {
+        std::array<std::size_t, 257> start{};
+        for (const Keyed& k : order)
+            ++start[((k.key >> shift) & 0xFF) + 1];
+        for (std::size_t digit = 1; digit < start.size(); ++digit)
+            start[digit] += start[digit - 1];
+        for (const Keyed& k : order)
+            sorted[start[(k.key >> shift) & 0xFF]++] = k;
+        order.swap(sorted);
+    }
+    std::vector<PlanetInstance> arranged(instances.size());
+    for (std::size_t i = 0; i < order.size(); ++i)
+        arranged[i] = instances[order[i].index];
+    instances.swap(arranged);
 }
 
 void collect(const SceneNode& node, Vec3 origin, Vec3 eye, const SurfaceLayerLookup& layerOf,
@@ -86,30 +124,7 @@ void collectPlanetInstances(const SceneNode& root, Vec3 eye, const SurfaceLayerL
                             std::vector<PlanetInstance>& instances) {
     instances.clear();
     collect(root, root.position(), eye, layerOf, instances);
-    std::stable_sort(
-        instances.begin(), instances.end(),
-        [](const PlanetInstance& a, const PlanetInstance& b) { return power(a) > power(b); });
-}
-
-void groupPlanetDraws(const std::vector<PlanetInstance>& instances,
-                      std::vector<PlanetDraw>& draws) {
-    draws.clear();
-    const auto textured = [&instances](std::size_t i) {
-        return instances[i].rampRow >= 0.0f || instances[i].surfaceLayer >= 0.0f;
-    };
-    for (std::size_t first = 0; first < instances.size();) {
-        std::size_t end = first + 1;
-        while (end < instances.size() && textured(end) == textured(first))
-            ++end;
-        const std::size_t count = end - first;
-        const bool joinsTextured =
-            textured(first) || (count < kShortestPlainDraw && count < instances.size());
-        if (!draws.empty() && draws.back().textured == joinsTextured)
-            draws.back().count += count;
-        else
-            draws.push_back(PlanetDraw{first, count, joinsTextured});
-        first = end;
-    }
+    sortFarthestFirst(instances);
 }
 
 std::optional<SceneLight> findLight(const SceneNode& root) {

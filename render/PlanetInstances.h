@@ -25,25 +25,11 @@ static_assert(sizeof(PlanetInstance) == 40);
 using SurfaceLayerLookup = std::function<int(const std::string& surfaceName)>;
 
 // Every sphere that can show (not hidden, no hidden ancestor, radius above 0), farthest
-// first, replacing the contents of `instances` (its capacity is reused). Drawn in this
-// order, a nearer planet's soft edge always blends over the planets behind it.
+// first, replacing the contents of `instances`. Drawn in this order, a nearer planet's soft
+// edge always blends over the planets behind it. The time taken grows in proportion to the
+// number of planets: the order comes from a radix sort.
 void collectPlanetInstances(const SceneNode& root, Vec3 eye, const SurfaceLayerLookup& layerOf,
                             std::vector<PlanetInstance>& instances);
-
-// Consecutive planets, in drawing order, drawn by one shader: with textures, or plain.
-struct PlanetDraw {
-    std::size_t first = 0;
-    std::size_t count = 0;
-    bool textured = false;
-};
-
-// Fewer plain planets in a row than this, among textured ones, are drawn with the textured
-// shader: a draw of their own would cost more than it saves.
-constexpr std::size_t kShortestPlainDraw = 16;
-
-// Splits the planets into draws that keep their order, replacing the contents of `draws`
-// (its capacity is reused), so that plain planets skip the texture work.
-void groupPlanetDraws(const std::vector<PlanetInstance>& instances, std::vector<PlanetDraw>& draws);
 
 struct SceneLight {
     Vec3 position; // in scene coordinates

@@ -1,24 +1,46 @@
 #include "render/PlanetShaders.h"
 
+#include "render/GradientRamps.h"
+#include "render/PlanetDraws.h"
+
 namespace orrery::render {
 
-// Each planet is a square around the circle where the eye's tangent cone touches the
-// sphere: it holds the sphere's whole silhouette, and every point of the circle lies on
-// the sphere, so no part of it is nearer than the sphere itself. It is widened by a pixel
-// and a half so that the soft outer edge is drawn too. (An octagon would spare a few
-// pixels, but software rasterisers pay more for the extra triangles than they save.)
-const char* const kPlanetVertexShader = R"(#version 330 core
+// Each planet covers the square where its silhouette lies, widened by kEdgeMargin so that
+// the soft outer edge is drawn too. As a point sprite (SPRITE), the square holds the part of
+// the silhouette's bounding box on screen: OpenGL drops a point whose centre lies off
+// screen, so the square's centre is kept on screen. As a quad, the square stands around the circle
+// where the eye's tangent cone touches the sphere: it holds the whole silhouette, and every
+// point of the circle lies on the sphere, so no part of it is nearer than the sphere
+// itself. (An octagon would spare a few pixels, but software rasterisers pay more for the
+// extra triangles than they save.)
+constexpr const char* kPlanetVertexShader = R"(
 layout(location = 0) in vec4 centerRadius;
 layout(location = 1) in vec4 diffuseColor;
 layout(location = 2) in vec2 layers;
 
 uniform mat4 projection;
 uniform float pixelAngle; // radians per pixel in the middle of the view
+uniform vec4 viewport;    // x, y, width, height in pixels
+uniform vec2 ndcToRay;
 
 flat out vec3 vCenter;
 flat out float vRadius;
 flat out vec4 vColor;
 flat out vec2 vLayers;
+
+#ifdef SPRITE
+uniform float surfaceWidth; // texels of the surface layers' largest level
+
+flat out float vLevel;
+
+// The silhouette's extent along one screen axis, as ray slopes: the two planes through the
+// eye that hold the other screen axis and touch the sphere.
+vec2 extent(float along, float depth, float radius) {
+    float a = depth * depth - radius * radius;
+    float s = radius * sqrt(along * along + a);
+    return vec2(along * depth - s, along * depth + s) / a;
+}
+#endif
 
 void main() {
     vec3 center = centerRadius.xyz;
@@ -27,6 +49,24 @@ void main() {
     vRadius = radius;
     vColor = diffuseColor;
     vLayers = layers;
+#ifdef SPRITE
+    // Only planets in front of the eye, their box of a sprite's size, come here.
+    vec2 xs = extent(center.x, -center.z, radius) / ndcToRay.x;
+    vec2 ys = extent(center.y, -center.z, radius) / ndcToRay.y;
+    vec2 boxLow = (vec2(xs.x, ys.x) * 0.5 + 0.5) * viewport.zw;
+    vec2 boxHigh = (vec2(xs.y, ys.y) * 0.5 + 0.5) * viewport.zw;
+    // The surface level whose texels are pixel sized in the middle of the planet, where a
+    // layer's width spans 2 pi radians.
+    vec2 box = boxHigh - boxLow;
+    float texelsPerPixel = surfaceWidth / (3.14159265 * max(max(box.x, box.y), 1e-6));
+    vLevel = clamp(round(log2(max(texelsPerPixel, 1.0))), 0.0, log2(max(surfaceWidth, 1.0)));
+    vec2 low = max(boxLow, vec2(0.0)) - EDGE_MARGIN;
+    vec2 high = min(boxHigh, viewport.zw) + EDGE_MARGIN;
+    vec2 middle = clamp((low + high) * 0.5, vec2(0.5), viewport.zw - 0.5);
+    vec2 reach = max(middle - low, high - middle);
+    gl_PointSize = 2.0 * max(reach.x, reach.y);
+    gl_Position = vec4(middle / viewport.zw * 2.0 - 1.0, 0.0, 1.0);
+#else
     float distance2 = dot(center, center);
     if (radius <= 0.0 || distance2 <= radius * radius) {
         // The eye is inside: the sphere's outside cannot be seen. Outside the clip volume.
@@ -37,13 +77,14 @@ void main() {
     vec3 axis = center / distance;
     float tangent = sqrt(distance2 - radius * radius);
     float along = tangent * tangent / distance;
-    float spread = radius * tangent / distance + 1.5 * pixelAngle * along;
+    float spread = radius * tangent / distance + EDGE_MARGIN * pixelAngle * along;
     vec3 helper = abs(axis.y) < 0.9 ? vec3(0.0, 1.0, 0.0) : vec3(1.0, 0.0, 0.0);
     vec3 right = normalize(cross(helper, axis));
     vec3 up = cross(axis, right);
     vec2 corner = vec2((gl_VertexID & 1) != 0 ? 1.0 : -1.0, (gl_VertexID & 2) != 0 ? 1.0 : -1.0);
     vec3 position = axis * along + (right * corner.x + up * corner.y) * spread;
     gl_Position = projection * vec4(position, 1.0);
+#endif
 }
 )";
 
@@ -61,8 +102,7 @@ uniform vec2 ndcToRay;
 uniform vec3 lightPosition;  // relative to the eye
 uniform vec3 lightColor;     // linear
 #ifdef TEXTURED
-uniform sampler2D gradientRamps;
-uniform float gradientRampCount;
+uniform sampler2D gradientRamps; // one row per style, RAMP_LENGTH samples from pole to pole
 uniform sampler2DArray surfaces;
 #endif
 
@@ -70,6 +110,9 @@ flat in vec3 vCenter;
 flat in float vRadius;
 flat in vec4 vColor; // linear
 flat in vec2 vLayers;
+#ifdef SPRITE
+flat in float vLevel; // the surface level for tiny sprites
+#endif
 
 layout(location = 0) out vec4 fragColor;
 
@@ -98,7 +141,7 @@ void main() {
     float inside = vRadius * vRadius - missDistance * missDistance;
     vec3 normal = inside > 0.0 ? (-miss - sqrt(inside) * direction) / vRadius
                                : -miss / max(missDistance, 1e-30);
-#ifdef TEXTURED
+#if defined(TEXTURED) && !defined(TINY)
     // Slopes need all four pixels of a block, so they are taken before any pixel leaves.
     vec3 normalDx = dFdx(normal);
     vec3 normalDy = dFdy(normal);
@@ -119,10 +162,30 @@ void main() {
     // (0.5 facing +z, growing towards +x). The branches depend on the planet alone, so all
     // pixels of a block take the same way.
     float v = acos(clamp(normal.y, -1.0, 1.0)) / kPi;
-    if (vLayers.x >= 0.0)
-        diffuse = textureLod(gradientRamps, vec2(v, (vLayers.x + 0.5) / gradientRampCount), 0.0);
+    if (vLayers.x >= 0.0) {
+        // Plain fetches: a software renderer filters a texture far more slowly, and reads
+        // four samples. A sprite is at most a fraction of the ramp's length high, so the
+        // nearest sample will do; a larger planet is linear between the two nearest.
+#ifdef SPRITE
+        diffuse = texelFetch(gradientRamps,
+                             ivec2(min(int(v * float(RAMP_LENGTH)), RAMP_LENGTH - 1), vLayers.x), 0);
+#else
+        float x = clamp(v * float(RAMP_LENGTH) - 0.5, 0.0, float(RAMP_LENGTH - 1));
+        ivec2 at = ivec2(x, vLayers.x);
+        diffuse = mix(texelFetch(gradientRamps, at, 0),
+                      texelFetch(gradientRamps, ivec2(min(at.x + 1, RAMP_LENGTH - 1), at.y), 0),
+                      x - float(at.x));
+#endif
+    }
     if (vLayers.y >= 0.0) {
         float u = atan(normal.x, normal.z) / (2.0 * kPi) + 0.5;
+#ifdef TINY
+        // The one texel under the pixel, at the level where texels are pixel sized: a few
+        // pixels across, a planet shows nothing that filtering would change.
+        ivec2 size = textureSize(surfaces, int(vLevel)).xy;
+        ivec2 texel = min(ivec2(vec2(u, v) * vec2(size)), size - 1);
+        vec4 glow = texelFetch(surfaces, ivec3(texel, vLayers.y), int(vLevel));
+#else
         // The slopes of u and v follow from the normal's by the chain rule: unlike
         // differences of u, they do not jump where u wraps from 1 to 0 behind the sphere.
         float ring2 = max(normal.x * normal.x + normal.z * normal.z, 1e-12);
@@ -131,6 +194,7 @@ void main() {
         vec2 slopeV = -vec2(normalDx.y, normalDy.y) / (kPi * sqrt(ring2));
         vec4 glow = textureGrad(surfaces, vec3(u, v, vLayers.y), vec2(slopeU.x, slopeV.x),
                                 vec2(slopeU.y, slopeV.y));
+#endif
         emission = glow.rgb * glow.a;
     }
 #endif
@@ -168,9 +232,31 @@ void main() {
 }
 )";
 
-std::string planetFragmentShader(bool textured) {
-    return std::string("#version 330 core\n") + (textured ? "#define TEXTURED\n" : "") +
-           kPlanetFragmentShader;
+namespace {
+
+const char* shapeDefines(PlanetShape shape) {
+    switch (shape) {
+    case PlanetShape::tinySprite:
+        return "#define SPRITE\n#define TINY\n";
+    case PlanetShape::sprite:
+        return "#define SPRITE\n";
+    case PlanetShape::quad:
+        break;
+    }
+    return "";
+}
+
+} // namespace
+
+std::string planetVertexShader(PlanetShape shape) {
+    return std::string("#version 330 core\n") + shapeDefines(shape) + "#define EDGE_MARGIN " +
+           std::to_string(kEdgeMargin) + "\n" + kPlanetVertexShader;
+}
+
+std::string planetFragmentShader(PlanetShape shape, bool textured) {
+    return std::string("#version 330 core\n") + shapeDefines(shape) +
+           (textured ? "#define TEXTURED\n" : "") + "#define RAMP_LENGTH " +
+           std::to_string(kGradientRampLength) + "\n" + kPlanetFragmentShader;
 }
 
 } // namespace orrery::render

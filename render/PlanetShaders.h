@@ -1,14 +1,18 @@
 #pragma once
 
+#include "render/PlanetDraws.h"
+
 #include <string>
 
 // GLSL 3.30 of the sphere impostors and of the pass that finishes the picture.
 namespace orrery::render {
 
-extern const char* const kPlanetVertexShader;
+// The planets' vertex shader for planets of one shape.
+std::string planetVertexShader(PlanetShape shape);
 
-// The planets' fragment shader, with or without gradient and surface textures.
-std::string planetFragmentShader(bool textured);
+// The planets' fragment shader for planets of one shape, with or without gradient and
+// surface textures.
+std::string planetFragmentShader(PlanetShape shape, bool textured);
 
 extern const char* const kComposeVertexShader;
 extern const char* const kComposeFragmentShader;

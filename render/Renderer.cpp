@@ -4,6 +4,7 @@
 #include "render/Framebuffers.h"
 #include "render/GlObject.h"
 #include "render/GradientRamps.h"
+#include "render/PlanetDraws.h"
 #include "render/PlanetInstances.h"
 #include "render/PlanetShaders.h"
 #include "render/ShaderProgram.h"
@@ -46,13 +47,19 @@ struct PlanetProgram {
     GLint lightPosition = -1;
     GLint lightColor = -1;
     GLint gradientRamps = -1;
-    GLint gradientRampCount = -1;
     GLint surfaces = -1;
+    GLint surfaceWidth = -1;
 };
 
 struct ComposeUniforms {
     GLint canvas = -1;
 };
+
+float largestPointSize() {
+    GLfloat range[2] = {1.0f, 1.0f};
+    glGetFloatv(GL_POINT_SIZE_RANGE, range);
+    return range[1];
+}
 
 GlObject makeGradientRampTexture() {
     GlObject texture(GlObject::Kind::texture);
@@ -75,6 +82,7 @@ GlObject makeGradientRampTexture() {
 // scene (or the eye) changed; a frame itself allocates nothing.
 class RendererState {
 public:
+    bool blendOverTarget = false;
     explicit RendererState(SurfaceSource source) : surfaces(std::move(source)) {}
 
     bool build(std::string* error);
@@ -85,19 +93,30 @@ public:
     std::string description() const;
 
 private:
-    void refreshPlanets(const Scene& scene, Vec3 eye);
+    void refreshPlanets(const Scene& scene, const CameraProjection& camera, int width, int height);
     void uploadInstances();
     void drawPlanets(const CameraProjection& camera, int width, int height);
     void useProgram(const PlanetProgram& shader, const CameraProjection& camera, int width,
                     int height);
-    void pointInstancesAt(std::size_t first);
+    void pointAttributesAt(std::size_t first);
     void compose(GLuint target, int width, int height);
 
-    PlanetProgram plainPlanets;
-    PlanetProgram texturedPlanets;
+    // Plain tiny sprites are drawn as plain sprites: without textures the two are one.
+    PlanetProgram& program(PlanetShape shape, bool textured) {
+        if (!textured && shape == PlanetShape::tinySprite)
+            shape = PlanetShape::sprite;
+        return programs[static_cast<std::size_t>(shape)][textured ? 1 : 0];
+    }
+
+    std::array<std::array<PlanetProgram, 2>, 3> programs; // [shape][textured]
+    float pointSizeLimit = 1.0f;
     GlObject composeProgram{GlObject::Kind::program};
     ComposeUniforms composing;
-    GlObject planetVertices{GlObject::Kind::vertexArray};
+    // Quads are instances of four vertices; sprites are plain vertices, one per planet, as a
+    // software renderer runs its vertex stage once per instance rather than for eight
+    // vertices at a time.
+    GlObject quadVertices{GlObject::Kind::vertexArray};
+    GlObject spriteVertices{GlObject::Kind::vertexArray};
     GlObject composeVertices{GlObject::Kind::vertexArray};
     GlObject instanceBuffer{GlObject::Kind::buffer};
     std::size_t instanceBufferBytes = 0;
@@ -112,6 +131,7 @@ private:
     std::uint64_t sceneId = 0;
     std::uint64_t sceneRevision = 0;
     Vec3 sceneEye;
+    ScreenFrame sceneFrame;
 };
 
 bool RendererState::build(std::string* error) {
@@ -121,23 +141,30 @@ bool RendererState::build(std::string* error) {
                      glText(GL_VERSION);
         return false;
     }
-    for (PlanetProgram* shader : {&plainPlanets, &texturedPlanets}) {
-        auto built = buildProgram(kPlanetVertexShader,
-                                  planetFragmentShader(shader == &texturedPlanets), error);
-        if (!built)
-            return false;
-        shader->program = std::move(*built);
-        const GLuint p = shader->program.id();
-        shader->projection = glGetUniformLocation(p, "projection");
-        shader->pixelAngle = glGetUniformLocation(p, "pixelAngle");
-        shader->viewport = glGetUniformLocation(p, "viewport");
-        shader->ndcToRay = glGetUniformLocation(p, "ndcToRay");
-        shader->lightPosition = glGetUniformLocation(p, "lightPosition");
-        shader->lightColor = glGetUniformLocation(p, "lightColor");
-        shader->gradientRamps = glGetUniformLocation(p, "gradientRamps");
-        shader->gradientRampCount = glGetUniformLocation(p, "gradientRampCount");
-        shader->surfaces = glGetUniformLocation(p, "surfaces");
+    for (const PlanetShape shape :
+         {PlanetShape::tinySprite, PlanetShape::sprite, PlanetShape::quad}) {
+        for (const bool textured : {false, true}) {
+            if (!textured && shape == PlanetShape::tinySprite)
+                continue;
+            PlanetProgram& shader = program(shape, textured);
+            auto built = buildProgram(planetVertexShader(shape),
+                                      planetFragmentShader(shape, textured), error);
+            if (!built)
+                return false;
+            shader.program = std::move(*built);
+            const GLuint p = shader.program.id();
+            shader.projection = glGetUniformLocation(p, "projection");
+            shader.pixelAngle = glGetUniformLocation(p, "pixelAngle");
+            shader.viewport = glGetUniformLocation(p, "viewport");
+            shader.ndcToRay = glGetUniformLocation(p, "ndcToRay");
+            shader.lightPosition = glGetUniformLocation(p, "lightPosition");
+            shader.lightColor = glGetUniformLocation(p, "lightColor");
+            shader.gradientRamps = glGetUniformLocation(p, "gradientRamps");
+            shader.surfaces = glGetUniformLocation(p, "surfaces");
+            shader.surfaceWidth = glGetUniformLocation(p, "surfaceWidth");
+        }
     }
+    pointSizeLimit = largestPointSize();
     auto composeShaders = buildProgram(kComposeVertexShader, kComposeFragmentShader, error);
     if (!composeShaders)
         return false;
@@ -145,13 +172,15 @@ bool RendererState::build(std::string* error) {
     composing.canvas = glGetUniformLocation(composeProgram.id(), "canvas");
 
     instanceBuffer.create();
-    planetVertices.create();
-    glBindVertexArray(planetVertices.id());
-    for (GLuint index = 0; index < 3; ++index) {
-        glEnableVertexAttribArray(index);
-        glVertexAttribDivisor(index, 1);
+    for (GlObject* vertices : {&quadVertices, &spriteVertices}) {
+        vertices->create();
+        glBindVertexArray(vertices->id());
+        for (GLuint index = 0; index < 3; ++index) {
+            glEnableVertexAttribArray(index);
+            glVertexAttribDivisor(index, vertices == &quadVertices ? 1 : 0);
+        }
+        pointAttributesAt(0);
     }
-    pointInstancesAt(0);
     glBindVertexArray(0);
     composeVertices.create();
 
@@ -159,20 +188,29 @@ bool RendererState::build(std::string* error) {
     return true;
 }
 
-void RendererState::refreshPlanets(const Scene& scene, Vec3 eye) {
-    if (scene.id() == sceneId && scene.revision() == sceneRevision && eye == sceneEye)
+void RendererState::refreshPlanets(const Scene& scene, const CameraProjection& camera, int width,
+                                   int height) {
+    const Vec3 eye = camera.eye();
+    const ScreenFrame frame{camera.ndcToRayX(), camera.ndcToRayY(), width, height,
+                            static_cast<double>(pointSizeLimit)};
+    const bool sameFrame = frame.ndcToRayX == sceneFrame.ndcToRayX &&
+                           frame.ndcToRayY == sceneFrame.ndcToRayY &&
+                           frame.width == sceneFrame.width && frame.height == sceneFrame.height;
+    if (scene.id() == sceneId && scene.revision() == sceneRevision && eye == sceneEye && sameFrame)
         return;
     surfaces.beginScene();
     collectPlanetInstances(
         scene.rootNode(), eye, [this](const std::string& name) { return surfaces.layerOf(name); },
         instances);
-    surfaces.endScene();
+    cullPlanets(instances, frame);
+    surfaces.endScene(largestSurfaceRadius(instances, frame));
     light = findLight(scene.rootNode());
-    groupPlanetDraws(instances, draws);
+    groupPlanetDraws(instances, frame, draws);
     uploadInstances();
     sceneId = scene.id();
     sceneRevision = scene.revision();
     sceneEye = eye;
+    sceneFrame = frame;
 }
 
 void RendererState::uploadInstances() {
@@ -205,16 +243,23 @@ void RendererState::drawPlanets(const CameraProjection& camera, int width, int h
     glEnable(GL_BLEND);
     glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA); // the canvas holds premultiplied colour
     glDisable(GL_CULL_FACE);
+    glEnable(GL_PROGRAM_POINT_SIZE);
 
     glActiveTexture(GL_TEXTURE0 + kRampUnit);
     glBindTexture(GL_TEXTURE_2D, gradientRamps.id());
     glActiveTexture(GL_TEXTURE0 + kSurfaceUnit);
     glBindTexture(GL_TEXTURE_2D_ARRAY, surfaces.texture());
-    glBindVertexArray(planetVertices.id());
     for (const PlanetDraw& draw : draws) {
-        useProgram(draw.textured ? texturedPlanets : plainPlanets, camera, width, height);
-        pointInstancesAt(draw.first);
-        glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, static_cast<GLsizei>(draw.count));
+        useProgram(program(draw.shape, draw.textured), camera, width, height);
+        const auto count = static_cast<GLsizei>(draw.count);
+        if (draw.shape != PlanetShape::quad) {
+            glBindVertexArray(spriteVertices.id());
+            glDrawArrays(GL_POINTS, static_cast<GLint>(draw.first), count);
+        } else {
+            glBindVertexArray(quadVertices.id());
+            pointAttributesAt(draw.first);
+            glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, count);
+        }
     }
     glBindVertexArray(0);
     glActiveTexture(GL_TEXTURE0);
@@ -238,13 +283,13 @@ void RendererState::useProgram(const PlanetProgram& shader, const CameraProjecti
                 static_cast<float>(srgbToLinear(lightColor.green)),
                 static_cast<float>(srgbToLinear(lightColor.blue)));
     glUniform1i(shader.gradientRamps, kRampUnit);
-    glUniform1f(shader.gradientRampCount, static_cast<float>(kGradientRampCount));
     glUniform1i(shader.surfaces, kSurfaceUnit);
+    glUniform1f(shader.surfaceWidth, static_cast<float>(surfaces.layerWidth()));
 }
 
-// Draws start at their first planet by moving where the per-planet attributes are read:
-// OpenGL 3.3 has no base instance.
-void RendererState::pointInstancesAt(std::size_t first) {
+// Instanced draws start at their first planet by moving where the per-planet attributes
+// of the bound vertex array are read: OpenGL 3.3 has no base instance.
+void RendererState::pointAttributesAt(std::size_t first) {
     constexpr auto stride = static_cast<GLsizei>(sizeof(PlanetInstance));
     const auto attribute = [first](GLuint index, GLint size, std::size_t offset) {
         glVertexAttribPointer(
@@ -261,7 +306,13 @@ void RendererState::compose(GLuint target, int width, int height) {
     glBindFramebuffer(GL_FRAMEBUFFER, target);
     glViewport(0, 0, width, height);
     glDisable(GL_DEPTH_TEST);
-    glDisable(GL_BLEND);
+    if (blendOverTarget) {
+        // The composed colours are straight alpha: "over" on an opaque backdrop.
+        glEnable(GL_BLEND);
+        glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    } else {
+        glDisable(GL_BLEND);
+    }
     glUseProgram(composeProgram.id());
     glUniform1i(composing.canvas, kCanvasUnit);
     glActiveTexture(GL_TEXTURE0 + kCanvasUnit);
@@ -279,7 +330,7 @@ bool RendererState::render(const Scene& scene, const CameraProjection& camera, G
     }
     if (!canvas.ensureSize(width, height, error))
         return false;
-    refreshPlanets(scene, camera.eye());
+    refreshPlanets(scene, camera, width, height);
     drawPlanets(camera, width, height);
     compose(target, width, height);
     if (const GLenum problem = glGetError(); problem != GL_NO_ERROR) {
@@ -296,7 +347,10 @@ std::optional<Image> RendererState::renderImage(const Scene& scene, const Camera
                                                 int width, int height, std::string* error) {
     if (!picture.ensureSize(width, height, error))
         return std::nullopt;
-    if (!render(scene, camera, picture.framebuffer(), width, height, error))
+    const bool blending = std::exchange(blendOverTarget, false);
+    const bool drawn = render(scene, camera, picture.framebuffer(), width, height, error);
+    blendOverTarget = blending;
+    if (!drawn)
         return std::nullopt;
     Image image(width, height);
     glBindFramebuffer(GL_READ_FRAMEBUFFER, picture.framebuffer());
@@ -317,6 +371,10 @@ std::string RendererState::description() const {
 } // namespace render
 
 Renderer::Renderer(std::unique_ptr<render::RendererState> state) : state_(std::move(state)) {}
+
+void Renderer::setBlendOverTarget(bool blend) {
+    state_->blendOverTarget = blend;
+}
 Renderer::~Renderer() = default;
 
 std::unique_ptr<Renderer> Renderer::create(SurfaceSource surfaces, std::string* error) {

@@ -43,6 +43,10 @@ public:
     std::optional<Image> renderImage(const Scene& scene, const CameraProjection& camera, int width,
                                      int height, std::string* error = nullptr);
 
+    // Whether render() lays the planets over what the framebuffer already holds (a
+    // backdrop drawn just before) instead of replacing it; pictures never blend.
+    void setBlendOverTarget(bool blend);
+
     // The OpenGL renderer and what the renderer uses of it, for logs and benchmarks.
     std::string description() const;
 

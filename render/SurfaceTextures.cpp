@@ -1,6 +1,7 @@
 #include "render/SurfaceTextures.h"
 
 #include "render/ImageResample.h"
+#include "render/SurfaceMipmaps.h"
 
 #include <algorithm>
 
@@ -8,6 +9,22 @@ namespace orrery::render {
 namespace {
 
 constexpr int kLayerGranularity = 4;
+constexpr int kFullWidth = SurfaceTextures::kLayerWidth;
+constexpr int kFullHeight = SurfaceTextures::kLayerHeight;
+constexpr int kLeastWidth = 16;
+
+int roundedUp(int layers) {
+    return (layers + kLayerGranularity - 1) / kLayerGranularity * kLayerGranularity;
+}
+
+// Layers wide enough for one texel per pixel at the centre of a planet of that radius: a
+// surface spans 2 pi radians of longitude across the layer's width.
+int detailWidth(double radiusPixels) {
+    int width = kLeastWidth;
+    while (width < kFullWidth && width < 6.283185307179586 * radiusPixels)
+        width *= 2;
+    return width;
+}
 
 int maxLayers() {
     GLint layers = 256;
@@ -15,16 +32,31 @@ int maxLayers() {
     return std::max(1, static_cast<int>(layers));
 }
 
-void allocateStorage(int layers) {
-    int width = SurfaceTextures::kLayerWidth;
-    int height = SurfaceTextures::kLayerHeight;
-    for (int level = 0;; ++level) {
-        glTexImage3D(GL_TEXTURE_2D_ARRAY, level, GL_SRGB8_ALPHA8, width, height, layers, 0, GL_RGBA,
-                     GL_UNSIGNED_BYTE, nullptr);
+// Calls `each(level, width, height)` for every mipmap level of layers `baseWidth` wide, the
+// largest first.
+template <typename Each> void forEachLevel(int baseWidth, Each each) {
+    for (int level = 0, width = baseWidth, height = baseWidth / 2;; ++level) {
+        each(level, width, height);
         if (width == 1 && height == 1)
-            break;
+            return;
         width = std::max(1, width / 2);
         height = std::max(1, height / 2);
+    }
+}
+
+void allocateStorage(int layers, int baseWidth) {
+    // All levels in one allocation: levels specified one by one make some drivers, Mesa
+    // among them, keep each level apart first and copy them together later.
+    if (epoxy_gl_version() >= 42 || epoxy_has_gl_extension("GL_ARB_texture_storage")) {
+        int levels = 0;
+        forEachLevel(baseWidth, [&](int, int, int) { ++levels; });
+        glTexStorage3D(GL_TEXTURE_2D_ARRAY, levels, GL_SRGB8_ALPHA8, baseWidth, baseWidth / 2,
+                       layers);
+    } else {
+        forEachLevel(baseWidth, [layers](int level, int width, int height) {
+            glTexImage3D(GL_TEXTURE_2D_ARRAY, level, GL_SRGB8_ALPHA8, width, height, layers, 0,
+                         GL_RGBA, GL_UNSIGNED_BYTE, nullptr);
+        });
     }
     // One mipmap level per sample, not a blend of two: half the texel reads, which a software
     // renderer feels, for a difference the eye does not see.
@@ -34,17 +66,55 @@ void allocateStorage(int layers) {
     glTexParameteri(GL_TEXTURE_2D_ARRAY, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
 }
 
-void setLayer(int layer, const std::uint8_t* pixels) {
+void setLevel(int level, int layer, int width, int height, const std::uint8_t* pixels) {
     glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
-    glTexSubImage3D(GL_TEXTURE_2D_ARRAY, 0, 0, 0, layer, SurfaceTextures::kLayerWidth,
-                    SurfaceTextures::kLayerHeight, 1, GL_RGBA, GL_UNSIGNED_BYTE, pixels);
+    glTexSubImage3D(GL_TEXTURE_2D_ARRAY, level, 0, 0, layer, width, height, 1, GL_RGBA,
+                    GL_UNSIGNED_BYTE, pixels);
+}
+
+// Copies layers, every level, from `source` into the array bound now, through a
+// framebuffer: the one way to copy between textures that OpenGL 3.3 has.
+void copyLayers(GLuint source, int baseWidth, const std::vector<std::pair<int, int>>& moves) {
+    GLint previous = 0;
+    glGetIntegerv(GL_READ_FRAMEBUFFER_BINDING, &previous);
+    GlObject reader(GlObject::Kind::framebuffer);
+    reader.create();
+    glBindFramebuffer(GL_READ_FRAMEBUFFER, reader.id());
+    forEachLevel(baseWidth, [&](int level, int width, int height) {
+        for (const auto& [from, to] : moves) {
+            glFramebufferTextureLayer(GL_READ_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, source, level,
+                                      from);
+            glCopyTexSubImage3D(GL_TEXTURE_2D_ARRAY, level, 0, 0, to, 0, 0, width, height);
+        }
+    });
+    glBindFramebuffer(GL_READ_FRAMEBUFFER, static_cast<GLuint>(previous));
 }
 
 } // namespace
 
 void SurfaceTextures::beginScene() {
-    for (auto& [name, entry] : entries_)
+    std::vector<std::pair<int, Entry*>> held;
+    for (auto& [name, entry] : entries_) {
         entry.used = false;
+        if (entry.layer >= 0)
+            held.emplace_back(entry.layer, &entry);
+    }
+    // Shrinking happens here, before this pass hands out layers, so that no planet is left
+    // pointing at a layer that moved.
+    const int needed = roundedUp(static_cast<int>(held.size()));
+    if (capacity_ == 0 || needed * 4 > capacity_ * 3)
+        return;
+    std::sort(held.begin(), held.end());
+    std::vector<std::pair<int, int>> moves;
+    for (std::size_t i = 0; i < held.size(); ++i) {
+        moves.emplace_back(held[i].first, static_cast<int>(i));
+        held[i].second->layer = static_cast<int>(i);
+    }
+    reallocate(needed, moves);
+    free_.clear();
+    for (int layer = static_cast<int>(held.size()); layer < needed; ++layer)
+        free_.push_back(layer);
+    handedOut_ = needed;
 }
 
 int SurfaceTextures::layerOf(const std::string& name) {
@@ -65,7 +135,7 @@ int SurfaceTextures::layerOf(const std::string& name) {
     return layer;
 }
 
-void SurfaceTextures::endScene() {
+void SurfaceTextures::endScene(double largestRadiusPixels) {
     for (auto it = entries_.begin(); it != entries_.end();) {
         if (it->second.used) {
             ++it;
@@ -75,15 +145,31 @@ void SurfaceTextures::endScene() {
             free_.push_back(it->second.layer);
         it = entries_.erase(it);
     }
-    if (handedOut_ > capacity_)
-        resize((handedOut_ + kLayerGranularity - 1) / kLayerGranularity * kLayerGranularity);
-    bool changed = false;
+    // With no surface on screen there is nothing to learn about the detail needed.
+    const int width =
+        largestRadiusPixels > 0.0 || width_ == 0 ? detailWidth(largestRadiusPixels) : width_;
+    const bool newDetail = width > width_ || width * 4 <= width_;
+    if (newDetail || handedOut_ > capacity_) {
+        // Growing keeps every surface in its layer; a new level of detail fetches them again.
+        std::vector<std::pair<int, int>> moves;
+        for (auto& [name, entry] : entries_) {
+            if (newDetail)
+                entry.loaded = false;
+            else if (entry.loaded && entry.layer >= 0)
+                moves.emplace_back(entry.layer, entry.layer);
+        }
+        if (newDetail)
+            width_ = width;
+        reallocate(std::max(capacity_, std::min(roundedUp(handedOut_), maxLayers())), moves);
+        for (int layer = handedOut_; layer < capacity_; ++layer)
+            free_.push_back(layer);
+        handedOut_ = std::max(handedOut_, capacity_);
+    }
     glBindTexture(GL_TEXTURE_2D_ARRAY, texture_.id());
     for (auto& [name, entry] : entries_) {
         if (entry.loaded || entry.layer < 0)
             continue;
         entry.loaded = true;
-        changed = true;
         if (!upload(name, entry.layer)) {
             // Nothing to show: the layer is cleared for the planets already pointing at it
             // and set free; from the next pass on the surface has no layer.
@@ -92,42 +178,45 @@ void SurfaceTextures::endScene() {
             entry.layer = -1;
         }
     }
-    if (changed)
-        glGenerateMipmap(GL_TEXTURE_2D_ARRAY);
 }
 
-void SurfaceTextures::resize(int capacity) {
-    capacity = std::min(capacity, maxLayers());
-    texture_.create();
-    glBindTexture(GL_TEXTURE_2D_ARRAY, texture_.id());
-    allocateStorage(capacity);
-    // The new storage is empty: the surfaces loaded before go back into their layers.
-    for (auto& [name, entry] : entries_)
-        if (entry.loaded && entry.layer >= 0 && !upload(name, entry.layer))
-            blank(entry.layer);
-    for (int layer = handedOut_; layer < capacity; ++layer)
-        free_.push_back(layer);
-    handedOut_ = capacity;
+void SurfaceTextures::reallocate(int capacity, const std::vector<std::pair<int, int>>& moves) {
+    GlObject fresh(GlObject::Kind::texture);
+    if (capacity > 0) {
+        fresh.create();
+        glBindTexture(GL_TEXTURE_2D_ARRAY, fresh.id());
+        allocateStorage(capacity, width_);
+        if (texture_ && !moves.empty())
+            copyLayers(texture_.id(), width_, moves);
+    }
+    texture_ = std::move(fresh);
     capacity_ = capacity;
 }
 
 bool SurfaceTextures::upload(const std::string& name, int layer) {
-    const Image* image = source_ ? source_(name) : nullptr;
-    if (image == nullptr || image->isNull())
+    std::optional<Image> image = source_ ? source_(name) : std::nullopt;
+    if (!image || image->isNull())
         return false;
-    if (image->width == kLayerWidth && image->height == kLayerHeight) {
-        setLayer(layer, image->pixels.data());
-    } else {
-        const Image scaled = resampled(*image, kLayerWidth, kLayerHeight);
-        setLayer(layer, scaled.pixels.data());
-    }
+    Image level = image->width == kFullWidth && image->height == kFullHeight
+                      ? std::move(*image)
+                      : resampled(*image, kFullWidth, kFullHeight);
+    image.reset();
+    while (level.width > width_)
+        level = halvedSurface(level);
+    forEachLevel(width_, [&](int index, int width, int height) {
+        if (index > 0)
+            level = halvedSurface(level);
+        setLevel(index, layer, width, height, level.pixels.data());
+    });
     return true;
 }
 
 void SurfaceTextures::blank(int layer) {
-    const std::vector<std::uint8_t> transparent(
-        static_cast<std::size_t>(kLayerWidth) * kLayerHeight * 4, 0);
-    setLayer(layer, transparent.data());
+    const std::vector<std::uint8_t> transparent(static_cast<std::size_t>(width_) * width_ / 2 * 4,
+                                                0);
+    forEachLevel(width_, [&](int level, int width, int height) {
+        setLevel(level, layer, width, height, transparent.data());
+    });
 }
 
 } // namespace orrery::render

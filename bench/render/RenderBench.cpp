@@ -1,6 +1,9 @@
-// Frames per second and peak memory of the headless renderer at 1920 x 1080, for growing
-// numbers of planets, plus hit-test times. Prints figures; never fails on time.
-//   bench_render [--quick] [PLANETS plain|styled]
+// Frame times and peak memory of the headless renderer at 1920 x 1080, for growing numbers
+// of planets, plus hit-test times. Each frame time is also given as a ratio to the floor:
+// one pass of the planet shader over every pixel of the frame (a plain planet that fills
+// the picture), measured in the same process with its frames taken in turn with the
+// case's, so that both see the same machine. Prints figures; never fails on time.
+//   bench_render [--quick] [PLANETS plain|styled [RADIUS]]
 // With a planet count, measures only that case (to compare changes quickly).
 #include "core/scene/SceneView.h"
 #include "imageio/SurfaceLibrary.h"
@@ -12,13 +15,16 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <memory>
 #include <random>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -38,6 +44,13 @@ double peakMemoryMiB() {
 
 void resetPeakMemory() {
     std::ofstream("/proc/self/clear_refs") << "5";
+}
+
+double median(std::vector<double> values) {
+    if (values.empty())
+        return 0.0;
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
 }
 
 struct Layout {
@@ -71,6 +84,13 @@ void populate(orrery::SceneView& view, const Layout& layout) {
     }
 }
 
+// The floor's scene: one plain planet, 1,500 units ahead, whose silhouette covers every
+// pixel of the frame.
+void populateFloor(orrery::SceneView& view) {
+    view.updateCamera(45, 45, 0, 0, 500, true, true);
+    view.createPlanet("floor", "0", "0", "-1000", "1000");
+}
+
 // How many times over the planets' silhouettes would paint the picture.
 double screenCoverage(const orrery::SceneView& view) {
     const orrery::CameraProjection camera = view.projection(kWidth, kHeight);
@@ -90,48 +110,115 @@ double screenCoverage(const orrery::SceneView& view) {
     return area / (static_cast<double>(kWidth) * kHeight);
 }
 
+// A renderer drawing into a framebuffer that stands in for the window's.
+struct Target {
+    GLuint colour = 0;
+    GLuint framebuffer = 0;
+
+    Target() {
+        glGenRenderbuffers(1, &colour);
+        glBindRenderbuffer(GL_RENDERBUFFER, colour);
+        glRenderbufferStorage(GL_RENDERBUFFER, GL_RGBA8, kWidth, kHeight);
+        glGenFramebuffers(1, &framebuffer);
+        glBindFramebuffer(GL_FRAMEBUFFER, framebuffer);
+        glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, colour);
+    }
+    ~Target() {
+        glDeleteFramebuffers(1, &framebuffer);
+        glDeleteRenderbuffers(1, &colour);
+    }
+    Target(const Target&) = delete;
+    Target& operator=(const Target&) = delete;
+};
+
+// Milliseconds of one finished frame.
+double frameMs(orrery::Renderer& renderer, const orrery::SceneView& view, const Target& target) {
+    const auto start = Clock::now();
+    renderer.render(view, target.framebuffer, kWidth, kHeight);
+    glFinish();
+    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+}
+
+// Calls `round` until `seconds` have passed and at least three times.
+template <typename Round> void repeatFor(double seconds, Round round) {
+    const auto start = Clock::now();
+    for (int rounds = 0;
+         rounds < 3 || std::chrono::duration<double>(Clock::now() - start).count() < seconds;
+         ++rounds)
+        round(rounds);
+}
+
+// Where a planet can be grabbed: the middle of the view, or else the first planet on
+// screen that a click reaches.
+orrery::ViewPoint grabPoint(orrery::SceneView& view) {
+    orrery::ViewPoint point{kWidth / 2.0, kHeight / 2.0};
+    for (const auto& node : view.scene().rootNode().children()) {
+        if (!view.hitTest(point).empty())
+            return point;
+        const orrery::Vec3 projected = view.projectPoint(node->position());
+        point = {projected.x, projected.y};
+    }
+    return point;
+}
+
 struct Figures {
     double coverage = 0.0;
-    double framesPerSecond = 0.0;
-    double dragFramesPerSecond = 0.0; // a planet moves between frames
+    double frameMs = 0.0;
+    double frameRatio = 0.0; // to the floor
+    double dragMs = 0.0;     // a planet moves between frames
+    double dragRatio = 0.0;
+    double floorMs = 0.0;
     double peakMiB = 0.0;
 };
 
-Figures measure(orrery::Renderer& renderer, GLuint target, const Layout& layout, bool quick) {
+using RendererPtr = std::unique_ptr<orrery::Renderer>;
+
+Figures measure(const std::function<RendererPtr()>& makeRenderer, const Layout& layout,
+                bool quick) {
+    const double seconds = quick ? 0.3 : 1.5;
+    const Target target;
     resetPeakMemory();
+    const RendererPtr renderer = makeRenderer();
     orrery::SceneView view;
     view.setViewSize(kWidth, kHeight);
     populate(view, layout);
-    const auto timeFrames = [&](auto&& beforeFrame) {
-        renderer.render(view, target, kWidth, kHeight);
-        glFinish();
-        const auto start = Clock::now();
-        int frames = 0;
-        const double minimum = quick ? 0.3 : 1.5;
-        double seconds = 0.0;
-        while (seconds < minimum || frames < 3) {
-            beforeFrame(frames);
-            renderer.render(view, target, kWidth, kHeight);
-            glFinish();
-            ++frames;
-            seconds = std::chrono::duration<double>(Clock::now() - start).count();
-        }
-        return frames / seconds;
-    };
     Figures figures;
     figures.coverage = screenCoverage(view);
-    figures.framesPerSecond = timeFrames([](int) {});
+    frameMs(*renderer, view, target);
+
     // Dragging: a planet moves before every frame, so the planet data is rebuilt and
     // uploaded each time.
-    const auto first = view.scene().rootNode().childNodesNamed("planet0");
-    const orrery::Vec3 grab =
-        view.projectPoint(first.empty() ? orrery::Vec3{} : first[0]->position());
-    view.mouseDown({grab.x, grab.y});
-    figures.dragFramesPerSecond = timeFrames([&](int frame) {
+    const orrery::ViewPoint grab = grabPoint(view);
+    std::vector<double> drag;
+    view.mouseDown(grab);
+    repeatFor(seconds, [&](int frame) {
         view.mouseDragged({grab.x + 1 + frame % 5, grab.y});
+        drag.push_back(frameMs(*renderer, view, target));
     });
     view.mouseUp();
     figures.peakMiB = peakMemoryMiB();
+
+    // Frames of the case and of the floor in turn, each with a renderer of its own so that
+    // neither rebuilds the other's planets.
+    const RendererPtr floorRenderer = makeRenderer();
+    orrery::SceneView floorView;
+    floorView.setViewSize(kWidth, kHeight);
+    populateFloor(floorView);
+    frameMs(*floorRenderer, floorView, target);
+    frameMs(*renderer, view, target);
+    std::vector<double> frames;
+    std::vector<double> floors;
+    std::vector<double> ratios;
+    repeatFor(seconds, [&](int) {
+        floors.push_back(frameMs(*floorRenderer, floorView, target));
+        frames.push_back(frameMs(*renderer, view, target));
+        ratios.push_back(frames.back() / floors.back());
+    });
+    figures.frameMs = median(frames);
+    figures.floorMs = median(floors);
+    figures.frameRatio = median(ratios);
+    figures.dragMs = median(drag);
+    figures.dragRatio = figures.dragMs / figures.floorMs;
     return figures;
 }
 
@@ -152,42 +239,6 @@ void hitTestTimes(int planets) {
                 seconds * 1000.0 / kClicks, hits, kClicks);
 }
 
-struct Bench {
-    std::unique_ptr<orrery::HeadlessContext> context;
-    orrery::imageio::SurfaceLibrary surfaces;
-    std::unique_ptr<orrery::Renderer> renderer;
-    GLuint colour = 0;
-    GLuint target = 0;
-
-    bool start() {
-        std::string error;
-        context = orrery::HeadlessContext::create(&error);
-        if (context)
-            renderer = orrery::Renderer::create(
-                [this](const std::string& name) { return surfaces.surfaceNamed(name); }, &error);
-        if (!renderer) {
-            std::fprintf(stderr, "bench_render: %s\n", error.c_str());
-            return false;
-        }
-        // Stands in for the window's framebuffer.
-        glGenRenderbuffers(1, &colour);
-        glBindRenderbuffer(GL_RENDERBUFFER, colour);
-        glRenderbufferStorage(GL_RENDERBUFFER, GL_RGBA8, kWidth, kHeight);
-        glGenFramebuffers(1, &target);
-        glBindFramebuffer(GL_FRAMEBUFFER, target);
-        glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, colour);
-        return true;
-    }
-
-    ~Bench() {
-        renderer.reset();
-        if (target != 0) {
-            glDeleteFramebuffers(1, &target);
-            glDeleteRenderbuffers(1, &colour);
-        }
-    }
-};
-
 // Measures one layout in a process of its own, so that its peak memory is its own.
 bool runOne(const Layout& layout, bool quick, bool describe = false) {
     std::fflush(stdout);
@@ -195,18 +246,31 @@ bool runOne(const Layout& layout, bool quick, bool describe = false) {
     if (child < 0)
         return false;
     if (child == 0) {
-        Bench bench;
-        if (!bench.start())
+        std::string error;
+        const auto context = orrery::HeadlessContext::create(&error);
+        orrery::imageio::SurfaceLibrary surfaces;
+        const auto makeRenderer = [&]() -> RendererPtr {
+            return context ? orrery::Renderer::create(
+                                 [&surfaces](const std::string& name) {
+                                     return surfaces.surfaceNamed(name);
+                                 },
+                                 &error)
+                           : nullptr;
+        };
+        if (const RendererPtr probe = makeRenderer(); !probe) {
+            std::fprintf(stderr, "bench_render: %s\n", error.c_str());
             _exit(2);
-        if (describe)
-            std::printf("%s via %s, %d x %d\n%7s %-16s %7s %9s %9s %9s %9s\n",
-                        bench.renderer->description().c_str(), bench.context->route().c_str(),
-                        kWidth, kHeight, "planets", "material", "radius", "coverage", "fps",
-                        "drag fps", "peak MiB");
-        const Figures f = measure(*bench.renderer, bench.target, layout, quick);
-        std::printf("%7d %-16s %7.0f %9.2f %9.1f %9.1f %9.1f\n", layout.planets,
+        } else if (describe) {
+            std::printf("%s via %s, %d x %d\n", probe->description().c_str(),
+                        context->route().c_str(), kWidth, kHeight);
+            std::printf("%7s %-16s %7s %8s %9s %8s %9s %8s %9s %9s\n", "planets", "material",
+                        "radius", "coverage", "frame ms", "x floor", "drag ms", "x floor",
+                        "floor ms", "peak MiB");
+        }
+        const Figures f = measure(makeRenderer, layout, quick);
+        std::printf("%7d %-16s %7.1f %8.2f %9.1f %8.2f %9.1f %8.2f %9.1f %9.1f\n", layout.planets,
                     layout.dressed ? "styled+surfaced" : "plain", layout.radius, f.coverage,
-                    f.framesPerSecond, f.dragFramesPerSecond, f.peakMiB);
+                    f.frameMs, f.frameRatio, f.dragMs, f.dragRatio, f.floorMs, f.peakMiB);
         std::fflush(stdout);
         _exit(0);
     }
@@ -219,9 +283,11 @@ bool runOne(const Layout& layout, bool quick, bool describe = false) {
 
 int main(int argc, char** argv) {
     const bool quick = argc > 1 && std::string(argv[1]) == "--quick";
-    if (const int rest = quick ? 2 : 1; argc == rest + 2) {
+    const int rest = quick ? 2 : 1;
+    if (argc == rest + 2 || argc == rest + 3) {
         const bool dressed = std::string(argv[rest + 1]) == "styled";
-        return runOne(Layout{std::atoi(argv[rest]), 24.0, dressed}, quick, true) ? 0 : 2;
+        const double radius = argc == rest + 3 ? std::atof(argv[rest + 2]) : 24.0;
+        return runOne(Layout{std::atoi(argv[rest]), radius, dressed}, quick, true) ? 0 : 2;
     }
     bool first = true;
     for (const bool dressed : {false, true}) {

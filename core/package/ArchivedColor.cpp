@@ -3,19 +3,9 @@
 #include "core/package/ColorComponents.h"
 
 #include <algorithm>
-#include <string_view>
 
 namespace orrery {
 namespace {
-
-std::optional<std::string_view> dataValue(plist_t object, const char* key) {
-    plist_t node = plist_dict_get_item(object, key);
-    if (node == nullptr || plist_get_node_type(node) != PLIST_DATA)
-        return std::nullopt;
-    std::uint64_t length = 0;
-    const char* bytes = plist_get_data_ptr(node, &length);
-    return std::string_view(bytes == nullptr ? "" : bytes, bytes == nullptr ? 0 : length);
-}
 
 double clamped(double component) {
     return std::clamp(component, 0.0, 1.0);
@@ -23,14 +13,12 @@ double clamped(double component) {
 
 } // namespace
 
-std::optional<Color> colorFromArchive(plist_t object, std::string& problem) {
-    plist_t spaceNode = plist_dict_get_item(object, "NSColorSpace");
-    if (spaceNode == nullptr || plist_get_node_type(spaceNode) != PLIST_UINT) {
+std::optional<Color> colorFromArchive(const ArchivedColorFields& fields, std::string& problem) {
+    if (!fields.space) {
         problem = "it has no colour space";
         return std::nullopt;
     }
-    std::uint64_t space = 0;
-    plist_get_uint_val(spaceNode, &space);
+    const std::uint64_t space = *fields.space;
     const bool rgb = space == 1 || space == 2;
     const bool white = space == 3 || space == 4;
     if (!rgb && !white) {
@@ -38,9 +26,9 @@ std::optional<Color> colorFromArchive(plist_t object, std::string& problem) {
             "its colour space (" + std::to_string(space) + ") is not one of RGB or white (1 to 4)";
         return std::nullopt;
     }
-    auto text = dataValue(object, rgb ? "NSRGB" : "NSWhite");
+    auto text = rgb ? fields.rgb : fields.white;
     if (!text)
-        text = dataValue(object, "NSComponents");
+        text = fields.components;
     if (!text) {
         problem = "it holds no components";
         return std::nullopt;

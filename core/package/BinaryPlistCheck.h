@@ -12,8 +12,9 @@ namespace orrery {
 // and inside the object area, references in range, dictionary keys that are text, no
 // cycles, nesting within kMaxNestingDepth, and a tree of at most limits.maxNodes nodes
 // and at most about four nodes per byte of the file.
-// libplist 2.2 recurses once per nesting level and copies a shared object at every
-// reference, so only bytes that pass this check may be handed to it.
+// Only bytes that pass this check may be read: the in-place reader (BinaryPlist) then
+// follows references without checking them again, and libplist 2.2 recurses once per
+// nesting level and copies a shared object at every reference.
 bool checkBinaryPropertyList(std::string_view bytes, const ParseLimits& limits, std::string& error);
 
 } // namespace orrery

@@ -1,6 +1,8 @@
 #include "core/package/KeyedArchive.h"
 
 #include "core/package/ArchivedColor.h"
+#include "core/package/BinaryPlistCheck.h"
+#include "core/package/PlistNodes.h"
 #include "core/package/PropertyList.h"
 
 #include <algorithm>
@@ -22,36 +24,27 @@ constexpr std::array<std::pair<std::string_view, ClassKind>, 4> kKnownClasses{{
 
 // A reference in either form: a UID node, or the dictionary {"CF$UID": n} that stands for
 // one in XML property lists.
-std::optional<std::uint64_t> uidValue(plist_t node) {
-    if (node == nullptr)
+template <typename Nodes>
+std::optional<std::uint64_t> uidValue(const Nodes& nodes, typename Nodes::Node node) {
+    if (const auto uid = nodes.uid(node))
+        return uid;
+    if (nodes.dictionarySize(node) != 1)
         return std::nullopt;
-    std::uint64_t value = 0;
-    switch (plist_get_node_type(node)) {
-    case PLIST_UID:
-        plist_get_uid_val(node, &value);
-        return value;
-    case PLIST_DICT: {
-        plist_t number = plist_dict_get_item(node, "CF$UID");
-        if (plist_dict_get_size(node) != 1 || number == nullptr ||
-            plist_get_node_type(number) != PLIST_UINT)
-            return std::nullopt;
-        plist_get_uint_val(number, &value);
-        return value;
-    }
-    default:
-        return std::nullopt;
-    }
+    const auto number = nodes.item(node, "CF$UID");
+    return number ? nodes.unsignedInteger(*number) : std::nullopt;
 }
 
-class Decoder {
+template <typename Nodes> class Decoder {
 public:
-    Decoder(std::vector<plist_t> table, std::string& error)
-        : table_(std::move(table)), state_(table_.size(), State::fresh), objects_(table_.size()),
-          error_(error) {}
+    using Node = typename Nodes::Node;
+
+    Decoder(const Nodes& nodes, std::vector<Node> table, std::string& error)
+        : nodes_(nodes), table_(std::move(table)), state_(table_.size(), State::fresh),
+          objects_(table_.size()), error_(error) {}
 
     // The table entry `node` refers to, checked against the table.
-    std::optional<std::uint32_t> reference(plist_t node, std::string_view where) {
-        const auto uid = uidValue(node);
+    std::optional<std::uint32_t> reference(std::optional<Node> node, std::string_view where) {
+        const auto uid = node ? uidValue(nodes_, *node) : std::nullopt;
         if (!uid) {
             fail(std::string(where) + " is not a reference");
             return std::nullopt;
@@ -94,12 +87,12 @@ private:
     }
 
     bool decodeEntry(std::uint32_t entry, std::uint32_t depth) {
-        plist_t node = table_[entry];
-        if (const auto text = stringValue(node)) {
-            objects_[entry] = std::string(*text);
+        const Node node = table_[entry];
+        if (const auto text = nodes_.text(node)) {
+            objects_[entry] = *text;
             return true;
         }
-        if (plist_get_node_type(node) != PLIST_DICT)
+        if (!nodes_.isDictionary(node))
             return fail("entry " + std::to_string(entry) + " is of a type a package never holds");
         const auto kind = classOf(entry, node);
         if (!kind)
@@ -117,24 +110,25 @@ private:
         return false;
     }
 
-    std::optional<ClassKind> classOf(std::uint32_t entry, plist_t node) {
+    std::optional<ClassKind> classOf(std::uint32_t entry, Node node) {
         const std::string where = "the class of entry " + std::to_string(entry);
-        const auto classEntry = reference(plist_dict_get_item(node, "$class"), where);
+        const auto classEntry = reference(nodes_.item(node, "$class"), where);
         if (!classEntry)
             return std::nullopt;
         if (const auto known = classes_.find(*classEntry); known != classes_.end())
             return known->second;
-        plist_t description = table_[*classEntry];
-        const auto name = plist_get_node_type(description) == PLIST_DICT
-                              ? stringValue(plist_dict_get_item(description, "$classname"))
-                              : std::nullopt;
+        const Node description = table_[*classEntry];
+        const auto nameNode = nodes_.item(description, "$classname");
+        const auto name = nameNode ? nodes_.text(*nameNode) : std::nullopt;
         if (!name) {
             fail(where + " is not a class description");
             return std::nullopt;
         }
         std::vector<std::string_view> chain{*name};
-        for (plist_t item : arrayItems(plist_dict_get_item(description, "$classes")))
-            if (const auto super = stringValue(item))
+        const auto superNodes = nodes_.item(description, "$classes");
+        const auto supers = superNodes ? nodes_.items(*superNodes) : std::nullopt;
+        for (const Node item : supers.value_or(std::vector<Node>{}))
+            if (const auto super = nodes_.text(item))
                 chain.push_back(*super);
         for (const auto& [className, kind] : kKnownClasses) {
             if (std::find(chain.begin(), chain.end(), className) != chain.end()) {
@@ -148,18 +142,18 @@ private:
     }
 
     // The table entries listed in an "NS.keys" or "NS.objects" array.
-    std::optional<std::vector<std::uint32_t>> references(std::uint32_t entry, plist_t node,
+    std::optional<std::vector<std::uint32_t>> references(std::uint32_t entry, Node node,
                                                          const char* key) {
-        plist_t list = plist_dict_get_item(node, key);
-        if (list == nullptr || plist_get_node_type(list) != PLIST_ARRAY) {
+        const auto list = nodes_.item(node, key);
+        const auto items = list ? nodes_.items(*list) : std::nullopt;
+        if (!items) {
             fail("entry " + std::to_string(entry) + " has no " + key + " list");
             return std::nullopt;
         }
         const std::string where = std::string(key) + " of entry " + std::to_string(entry);
         std::vector<std::uint32_t> entries;
-        const std::vector<plist_t> items = arrayItems(list);
-        entries.reserve(items.size());
-        for (plist_t item : items) {
+        entries.reserve(items->size());
+        for (const Node item : *items) {
             const auto target = reference(item, where);
             if (!target)
                 return std::nullopt;
@@ -168,7 +162,7 @@ private:
         return entries;
     }
 
-    bool decodeArray(std::uint32_t entry, plist_t node, std::uint32_t depth) {
+    bool decodeArray(std::uint32_t entry, Node node, std::uint32_t depth) {
         auto items = references(entry, node, "NS.objects");
         if (!items)
             return false;
@@ -179,7 +173,7 @@ private:
         return true;
     }
 
-    bool decodeDictionary(std::uint32_t entry, plist_t node, std::uint32_t depth) {
+    bool decodeDictionary(std::uint32_t entry, Node node, std::uint32_t depth) {
         const auto keys = references(entry, node, "NS.keys");
         if (!keys)
             return false;
@@ -195,7 +189,7 @@ private:
             const std::uint32_t key = (*keys)[i];
             if (!decode(key, depth + 1))
                 return false;
-            if (!std::holds_alternative<std::string>(objects_[key]))
+            if (!std::holds_alternative<std::string_view>(objects_[key]))
                 return fail("a key of entry " + std::to_string(entry) + " is not text");
             if (!decode((*values)[i], depth + 1))
                 return false;
@@ -205,9 +199,17 @@ private:
         return true;
     }
 
-    bool decodeColor(std::uint32_t entry, plist_t node) {
+    bool decodeColor(std::uint32_t entry, Node node) {
+        const auto dataAt = [&](const char* key) {
+            const auto item = nodes_.item(node, key);
+            return item ? nodes_.data(*item) : std::nullopt;
+        };
+        const auto space = nodes_.item(node, "NSColorSpace");
+        const ArchivedColorFields fields{space ? nodes_.unsignedInteger(*space) : std::nullopt,
+                                         dataAt("NSRGB"), dataAt("NSWhite"),
+                                         dataAt("NSComponents")};
         std::string problem;
-        const auto color = colorFromArchive(node, problem);
+        const auto color = colorFromArchive(fields, problem);
         if (!color)
             return fail("the colour in entry " + std::to_string(entry) +
                         " is unreadable: " + problem);
@@ -216,15 +218,17 @@ private:
     }
 
     // A mutable string keeps its text under "NS.string".
-    bool decodeMutableText(std::uint32_t entry, plist_t node) {
-        const auto text = stringValue(plist_dict_get_item(node, "NS.string"));
+    bool decodeMutableText(std::uint32_t entry, Node node) {
+        const auto textNode = nodes_.item(node, "NS.string");
+        const auto text = textNode ? nodes_.text(*textNode) : std::nullopt;
         if (!text)
             return fail("the string in entry " + std::to_string(entry) + " has no text");
-        objects_[entry] = std::string(*text);
+        objects_[entry] = *text;
         return true;
     }
 
-    std::vector<plist_t> table_;
+    const Nodes& nodes_;
+    std::vector<Node> table_;
     std::vector<State> state_;
     std::vector<ArchivedObject> objects_;
     std::unordered_map<std::uint32_t, ClassKind> classes_;
@@ -235,34 +239,42 @@ private:
 
 std::optional<KeyedArchive> KeyedArchive::read(const std::string& bytes, const ParseLimits& limits,
                                                std::string& error) {
-    const PlistPtr plist = parsePropertyList(bytes, limits, error);
-    if (!plist)
+    if (bytes.starts_with("bplist")) {
+        if (!checkBinaryPropertyList(bytes, limits, error))
+            return std::nullopt;
+        return decode(std::make_shared<const BinaryPlistNodes>(bytes), error);
+    }
+    PlistPtr tree = parsePropertyList(bytes, limits, error);
+    if (!tree)
         return std::nullopt;
-    return decode(plist.get(), error);
+    return decode(std::make_shared<const XmlPlistNodes>(std::move(tree)), error);
 }
 
-std::optional<KeyedArchive> KeyedArchive::decode(plist_t archive, std::string& error) {
-    const auto archiver = plist_get_node_type(archive) == PLIST_DICT
-                              ? stringValue(plist_dict_get_item(archive, "$archiver"))
-                              : std::nullopt;
-    plist_t objects = archiver ? plist_dict_get_item(archive, "$objects") : nullptr;
-    plist_t top = archiver ? plist_dict_get_item(archive, "$top") : nullptr;
-    if (archiver != "NSKeyedArchiver" || plist_get_node_type(objects) != PLIST_ARRAY ||
-        plist_get_node_type(top) != PLIST_DICT) {
+template <typename Nodes>
+std::optional<KeyedArchive> KeyedArchive::decode(std::shared_ptr<const Nodes> nodes,
+                                                 std::string& error) {
+    const auto top = nodes->top();
+    const auto archiverNode = nodes->item(top, "$archiver");
+    const auto archiver = archiverNode ? nodes->text(*archiverNode) : std::nullopt;
+    const auto objectsNode = nodes->item(top, "$objects");
+    auto objects = objectsNode ? nodes->items(*objectsNode) : std::nullopt;
+    const auto topNode = nodes->item(top, "$top");
+    if (archiver != "NSKeyedArchiver" || !objects || !topNode || !nodes->isDictionary(*topNode)) {
         error = "the file is not a keyed archive";
         return std::nullopt;
     }
-    Decoder decoder(arrayItems(objects), error);
-    const auto root = decoder.reference(plist_dict_get_item(top, "root"), "the archive's root");
+    Decoder<Nodes> decoder(*nodes, std::move(*objects), error);
+    const auto root = decoder.reference(nodes->item(*topNode, "root"), "the archive's root");
     if (!root || !decoder.decode(*root, 1))
         return std::nullopt;
-    return KeyedArchive(decoder.take(), *root);
+    return KeyedArchive(decoder.take(), *root, std::move(nodes));
 }
 
 std::optional<std::uint32_t> KeyedArchive::find(const ArchivedDictionary& dictionary,
                                                 std::string_view key) const {
     for (const auto& [keyEntry, valueEntry] : dictionary.entries)
-        if (const auto* text = std::get_if<std::string>(&objects_[keyEntry]); text && *text == key)
+        if (const auto* text = std::get_if<std::string_view>(&objects_[keyEntry]);
+            text && *text == key)
             return valueEntry;
     return std::nullopt;
 }

@@ -14,10 +14,10 @@
 
 namespace orrery {
 
-// Builds a keyed archive the way the original platform's archiver lays it out: a binary
-// property list {"$archiver": "NSKeyedArchiver", "$version": 100000, "$top": {"root": UID},
-// "$objects": [...]} whose entry 0 is "$null". Equal texts share one entry, as the
-// original's do.
+// Builds a keyed archive in the NSKeyedArchiver layout: a binary property list
+// {"$archiver": "NSKeyedArchiver", "$version": 100000, "$top": {"root": UID},
+// "$objects": [...]} whose entry 0 is "$null". Equal texts share one entry, which keeps a
+// planet list with many repeated values small.
 class KeyedArchiveWriter {
 public:
     using Entry = std::uint32_t; // index into "$objects"

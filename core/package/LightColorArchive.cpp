@@ -12,7 +12,7 @@ constexpr std::size_t kStoredCopies = 5;
 
 std::string encodeLightColorArchive(const Color& color) {
     KeyedArchiveWriter writer;
-    // One colour object referred to five times, as the original's archiver shares it.
+    // One colour object referred to five times: the five entries are equal, so they share it.
     const std::vector<KeyedArchiveWriter::Entry> copies(kStoredCopies, writer.color(color));
     const auto root = writer.array(copies, KeyedArchiveWriter::ArrayClass::array);
     std::string bytes;

@@ -15,11 +15,13 @@ struct ParseLimits {
     std::uint64_t maxNodes;
 };
 
-// No archive the original platform writes nests more than a handful of levels.
+// A package's archives nest a handful of levels (list, record, colour, class); anything
+// near this limit is no package.
 inline constexpr std::uint32_t kMaxNestingDepth = 512;
 
-// "data1.xml": about 360,000 planets fit (some 46 nodes and 270 bytes each); reading
-// that many takes about 1.8 GB, nearly all of it libplist's tree.
+// "data1.xml": about 360,000 planets fit (some 46 nodes and 270 bytes each). A binary list
+// is read in place, so reading them takes the file and about 750 bytes a planet more (the
+// object table and the records), some 350 MB.
 inline constexpr ParseLimits kPlanetArchiveLimits{128u << 20, 1u << 24};
 // "data2.xml" (31 short texts) and "data3.xml" (five colours) are a few hundred bytes.
 inline constexpr ParseLimits kSettingsListLimits{1u << 20, 1u << 16};

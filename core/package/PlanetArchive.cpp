@@ -39,7 +39,7 @@ bool readRecord(const KeyedArchive& archive, std::uint32_t entry, PlanetRecord& 
             }
             record.color = *color;
         } else {
-            const auto* text = std::get_if<std::string>(&object);
+            const auto* text = std::get_if<std::string_view>(&object);
             if (text == nullptr) {
                 problem = "has a \"" + name + "\" that is not text";
                 return false;

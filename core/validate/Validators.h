@@ -8,8 +8,8 @@
 namespace orrery {
 
 // Text matching ^[-+]?[0-9]*\.?[0-9]+$ as a regular-expression search: "5", "-5", "+.5"
-// and "0.25" pass; "5.", "1e3", " 5", "1,5" and "" fail. Like the original expression,
-// "$" also matches before one line terminator that ends the text.
+// and "0.25" pass; "5.", "1e3", " 5", "1,5" and "" fail. As in Perl and ICU
+// regular expressions, "$" also matches before one line terminator that ends the text.
 bool isNumber(std::string_view text);
 
 // The text without the spaces and tabs at both ends.

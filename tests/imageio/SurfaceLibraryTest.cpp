@@ -40,18 +40,21 @@ TEST(SurfaceLibrary, LoadsSurfacesAndThumbnailsByNumber_MissingOrDamagedGiveNoth
                   "");
     std::ofstream(folder.root() / "Surface004.png") << "not a picture";
     SurfaceLibrary library;
-    const Image* surface = library.surface(2);
-    ASSERT_NE(surface, nullptr);
+    const auto surface = library.surface(2);
+    ASSERT_TRUE(surface);
     EXPECT_EQ(surface->width, 64);
-    ASSERT_NE(library.thumbnail(2), nullptr);
-    EXPECT_EQ(library.thumbnail(2)->width, 16);
-    // Decoded once and kept, whether asked for by number or by name.
-    EXPECT_EQ(library.surface(2), surface);
-    EXPECT_EQ(library.surfaceNamed("Surface002"), surface);
+    const auto named = library.surfaceNamed("Surface002");
+    ASSERT_TRUE(named);
+    EXPECT_EQ(named->pixels, surface->pixels);
     for (const char* name : {"Surface2", "Surface0002", "surface002", "Surface002.png"})
-        EXPECT_EQ(library.surfaceNamed(name), nullptr) << name;
+        EXPECT_FALSE(library.surfaceNamed(name)) << name;
     for (const int missing : {3, 4, 0, -1})
-        EXPECT_EQ(library.surface(missing), nullptr) << missing;
+        EXPECT_FALSE(library.surface(missing)) << missing;
+    // Thumbnails are decoded once and kept.
+    const Image* thumbnail = library.thumbnail(2);
+    ASSERT_NE(thumbnail, nullptr);
+    EXPECT_EQ(thumbnail->width, 16);
+    EXPECT_EQ(library.thumbnail(2), thumbnail);
     EXPECT_EQ(library.thumbnail(4), nullptr);
 }
 

@@ -51,17 +51,20 @@ TEST(PlanetInstances, FarthestFirst_TiesInSceneOrder) {
     // farther away: the surface decides.
     view.createPlanet("big", "0", "0", "200", "200");   // centre 300 from the eye
     view.createPlanet("small", "226", "0", "420", "1"); // centre 240 from the eye
+    view.createPlanet("around", "0", "0", "0", "600");  // holds the eye: nearest of all
     const auto instances = instancesOf(view);
-    ASSERT_EQ(instances.size(), 6u);
+    ASSERT_EQ(instances.size(), 7u);
     std::vector<std::string> order;
     for (const PlanetInstance& instance : instances)
         order.push_back(instance.radius == 60        ? "far"
                         : instance.radius == 20      ? "near"
                         : instance.radius == 200     ? "big"
                         : instance.radius == 1       ? "small"
+                        : instance.radius == 600     ? "around"
                         : instance.surfaceLayer == 5 ? "twinA"
                                                      : "twinB");
-    EXPECT_EQ(order, (std::vector<std::string>{"far", "twinA", "twinB", "near", "small", "big"}));
+    EXPECT_EQ(order, (std::vector<std::string>{"far", "twinA", "twinB", "near", "small", "big",
+                                               "around"}));
 }
 
 TEST(PlanetInstances, MaterialsBecomeColourRampAndSurfaceLayer) {
@@ -115,42 +118,6 @@ TEST(PlanetInstances, HiddenGroupsHideTheirChildren_PositionsAddUp) {
     group->setHidden(true);
     collectPlanetInstances(scene.rootNode(), {0, 0, 0}, none, instances);
     EXPECT_TRUE(instances.empty());
-}
-
-// Planets from a pattern: 't' textured (a ramp, a surface or both), 'p' plain.
-std::vector<PlanetInstance> patterned(const std::string& pattern) {
-    std::vector<PlanetInstance> instances;
-    for (std::size_t i = 0; i < pattern.size(); ++i) {
-        PlanetInstance instance{};
-        const bool textured = pattern[i] == 't';
-        instance.rampRow = textured && i % 3 != 1 ? 3.0f : -1.0f;
-        instance.surfaceLayer = textured && i % 3 != 0 ? 0.0f : -1.0f;
-        instances.push_back(instance);
-    }
-    return instances;
-}
-
-std::string drawsOf(const std::string& pattern) {
-    std::vector<PlanetDraw> draws{{7, 7, true}}; // replaced, not appended to
-    groupPlanetDraws(patterned(pattern), draws);
-    std::string text;
-    for (const PlanetDraw& draw : draws)
-        text += (draw.textured ? "t" : "p") + std::to_string(draw.first) + "+" +
-                std::to_string(draw.count) + " ";
-    return text;
-}
-
-TEST(PlanetDraws, KeepTheOrder_ShortPlainStretchesJoinTheTexturedDraws) {
-    const std::string plains(kShortestPlainDraw, 'p');
-    const std::string fewer(kShortestPlainDraw - 1, 'p');
-    const std::string n = std::to_string(kShortestPlainDraw);
-    EXPECT_EQ(drawsOf(""), "");
-    EXPECT_EQ(drawsOf("ppp"), "p0+3 "); // a scene of a few plain planets stays plain
-    EXPECT_EQ(drawsOf("tttt"), "t0+4 ");
-    EXPECT_EQ(drawsOf("tt" + plains + "t"),
-              "t0+2 p2+" + n + " t" + std::to_string(2 + kShortestPlainDraw) + "+1 ");
-    EXPECT_EQ(drawsOf("tt" + fewer + "t"), "t0+" + std::to_string(kShortestPlainDraw + 2) + " ");
-    EXPECT_EQ(drawsOf(fewer + "t" + plains), "t0+" + n + " p" + n + "+" + n + " ");
 }
 
 TEST(SceneLights, FirstVisibleLightWithItsColour) {

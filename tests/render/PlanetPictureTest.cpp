@@ -1,6 +1,7 @@
 #include "RenderTestSupport.h"
 
 #include "core/scene/PlanetNodes.h"
+#include "render/PlanetDraws.h"
 
 #include <cmath>
 
@@ -164,6 +165,49 @@ TEST_F(PlanetPicture, PlainAndStyledPlanetsMixedKeepTheirLooks) {
         const Rgba p = at(Vec3{-190.0 + 20 * i, -60, 100.0 - i});
         EXPECT_GT(std::min({p.r, p.g, p.b}), 150) << i;
         EXPECT_LE(std::max({p.r, p.g, p.b}) - std::min({p.r, p.g, p.b}), 2) << i;
+    }
+}
+
+// Planets at the picture's edges, small ones drawn as sprites and large ones as quads:
+// whatever part lies on screen is drawn, down to the soft edge of one that lies just
+// beyond the top.
+TEST_F(PlanetPicture, PlanetsAtThePicturesEdgesShowTheirVisiblePart) {
+    constexpr int kSide = 400;
+    SceneView view;
+    view.updateLight("0", "0", "500");
+    const CameraProjection camera = view.projection(kSide, kSide);
+    const double pixelsPerUnit = kSide / 2.0 / camera.ndcToRayY() / 500.0; // at z = 0
+    const render::ScreenFrame frame{camera.ndcToRayX(), camera.ndcToRayY(), kSide, kSide, 255};
+    // Where the silhouette's lowest point lies, in pixels up from the bottom.
+    const auto bottomOf = [&](double y, double radius) {
+        render::PlanetInstance planet{};
+        planet.center[1] = static_cast<float>(y);
+        planet.center[2] = -500.0f;
+        planet.radius = static_cast<float>(radius);
+        return render::silhouetteBox(planet, frame)->bottom;
+    };
+    for (const double radiusPixels : {7.0, 150.0}) {
+        const double radius = radiusPixels / pixelsPerUnit;
+        SCOPED_TRACE(radiusPixels);
+        // Centred on the top-left corner: a quarter disc.
+        const double corner = kSide / 2.0 / pixelsPerUnit;
+        view.createPlanet("corner", std::to_string(-corner), std::to_string(corner), "0",
+                          std::to_string(radius));
+        // Above the middle of the top edge, its silhouette 0.3 pixels above the centres of
+        // the top row, where the soft edge still gives them a fifth of the colour: the
+        // height is found by halving the interval.
+        double low = 0.0;
+        double high = 2.0 * corner;
+        for (int i = 0; i < 60; ++i)
+            (bottomOf((low + high) / 2, radius) < kSide - 0.2 ? low : high) = (low + high) / 2;
+        view.createPlanet("top", "0", std::to_string(low), "0", std::to_string(radius));
+        const Image image = draw(view, kSide, kSide);
+        EXPECT_EQ(pixelAt(image, 0, 0).a, 255);
+        EXPECT_EQ(pixelAt(image, static_cast<int>(radiusPixels / 2), 1).a, 255);
+        EXPECT_NEAR(pixelAt(image, kSide / 2, 0).a, 51, 15);
+        EXPECT_EQ(pixelAt(image, kSide / 2, 1).a, 0);
+        view.deletePlanet("corner");
+        view.deletePlanet("top");
     }
 }
 

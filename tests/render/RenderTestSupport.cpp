@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <numbers>
+#include <optional>
 
 namespace orrery::testing {
 
@@ -10,10 +11,10 @@ void RenderTest::SetUp() {
     context = HeadlessContext::create(&error);
     ASSERT_TRUE(context) << "cannot draw without an OpenGL context: " << error;
     renderer = Renderer::create(
-        [this](const std::string& name) -> const Image* {
+        [this](const std::string& name) -> std::optional<Image> {
             ++surfaceRequests;
             const auto found = surfaces.find(name);
-            return found == surfaces.end() ? nullptr : &found->second;
+            return found == surfaces.end() ? std::nullopt : std::optional<Image>(found->second);
         },
         &error);
     ASSERT_TRUE(renderer) << error;

@@ -80,22 +80,33 @@ TEST_F(SurfacePicture, EmissionIsAddedToTheLitColour) {
     EXPECT_EQ(unlit.r + unlit.g + unlit.b, 0);
 }
 
+// Small planets (sprites) and, behind them, tiny ones (sprites that read a single texel),
+// enough of them in a row for a draw of their own.
 TEST_F(SurfacePicture, EachSurfaceIsFetchedOnceForAllItsPlanets) {
     surfaces["Surface001"] = solidImage(64, 32, {255, 0, 0, 255});
     surfaces["Surface002"] = solidImage(64, 32, {0, 255, 0, 255});
     SceneView view;
     view.updateLight("0", "0", "-1000");
-    for (int i = 0; i < 20; ++i)
-        view.createPlanet2(std::to_string(i), kBlue, 0, 1 + i % 2, std::to_string(-190 + 20 * i),
-                           "0", "0", "8");
+    const auto centre = [](int i) {
+        return i < 4 ? Vec3{-190.0 + 20 * i, 0, 0} : Vec3{-190.0 + 10 * i, -60, -100};
+    };
+    const auto radius = [](int i) {
+        return i < 4 ? 8.0 : 2.0;
+    };
+    for (int i = 0; i < 24; ++i)
+        view.createPlanet2(std::to_string(i), kBlue, 0, 1 + i % 2, std::to_string(centre(i).x),
+                           std::to_string(centre(i).y), std::to_string(centre(i).z),
+                           std::to_string(radius(i)));
     const Image image = draw(view, 800, 400);
     draw(view, 800, 400);
     EXPECT_EQ(surfaceRequests, 2);
     const CameraProjection camera = view.projection(800, 400);
-    const Vec3 first = camera.project({-190, 0, 8});
-    const Vec3 second = camera.project({-170, 0, 8});
-    EXPECT_GT(pixelUnder(image, first.x, first.y).r, 240);
-    EXPECT_GT(pixelUnder(image, second.x, second.y).g, 240);
+    for (const int i : {0, 1, 4, 5}) {
+        const Vec3 front = camera.project(centre(i) + Vec3{0, 0, radius(i)});
+        const Rgba p = pixelUnder(image, front.x, front.y);
+        EXPECT_GT(i % 2 == 0 ? p.r : p.g, 240) << i;
+        EXPECT_LT(i % 2 == 0 ? p.g : p.r, 15) << i;
+    }
 }
 
 } // namespace

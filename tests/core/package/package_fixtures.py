@@ -6,9 +6,9 @@
 
 "make" writes packages in the NSKeyedArchiver layout, with everything a reader of that
 layout meets (shared entries, mutable classes, colours in several spaces, both forms of
-reference) plus broken
-ones; the manifest says what reading each must give. "dump" lets the tests check that the
-packages our writer produces are readable by a reader that is not ours.
+reference), plus broken ones; the manifest says what reading each must give. "dump" lets
+the tests check that the packages our writer produces are readable by a reader that is not
+ours.
 """
 
 import json
@@ -141,7 +141,8 @@ def full_system(xml):
     components = a.color(1, NSComponents=b"1 0 0 1", NSCustomColorSpace=a.ref(space))
     records = [
         planet("1424700000", "Sun", blue, radius="80", surfaceindex="12"),
-        planet("1424700001", "\u00c6r\u00f8 \u2609", device, xvalue="-12.5", state="0"),
+        planet("1424700001", "\u00c6r\u00f8 \u2609 \U0001fa90", device, xvalue="-12.5",
+               state="0"),
         planet("1424700001", a.mutable_text("Twin"), white, styleindex="81"),
         planet("1424700002", "Twin", white_alpha, yvalue="1e30", zvalue="nan"),
         planet("1424700003", "", components, radius="0.1"),
