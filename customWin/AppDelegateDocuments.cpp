@@ -112,8 +112,11 @@ void AppDelegate::createNewSystem2() {
 }
 
 void AppDelegate::removeAllPlanets() {
+    std::vector<std::string> identities;
+    identities.reserve(state_.planetArray.size());
     for (const PlanetRecord& planet : state_.planetArray)
-        sceneview().scene().deletePlanet(planet.tsecs);
+        identities.push_back(planet.tsecs);
+    sceneview().scene().deletePlanets(identities);
     state_.planetArray.clear();
     reloadPlanets();
 }

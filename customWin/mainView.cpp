@@ -12,8 +12,11 @@
 namespace orrery::window {
 
 topView1::topView1(QWidget* parent)
-    : QWidget(parent), screen_(new screenView(this)), scene_(new sceneView(this)) {
+    : QWidget(parent), screen_(new screenView(this)), scene_(new sceneView(*screen_, this)) {
     setObjectName(QStringLiteral("topView1"));
+    // The scene's window draws the backdrop under the planets; the backdrop's own widget
+    // keeps its state and its size.
+    screen_->hide();
 }
 
 void topView1::resizeEvent(QResizeEvent*) {

@@ -2,40 +2,42 @@
 
 #include "core/scene/SceneView.h"
 #include "core/styles/Image.h"
-#include "imageio/SurfaceLibrary.h"
 
-#include <QOpenGLWidget>
+#include <QImage>
+#include <QWidget>
 
-#include <memory>
 #include <optional>
 #include <string>
 
-namespace orrery {
-class Renderer;
-}
+class QWindow;
 
 namespace orrery::window {
 
-// The 3D view of the document area: the planet scene drawn by the renderer over a
-// transparent background, so that the backdrop beneath shows wherever there is no planet.
-// It redraws only when the scene changed. A press on a planet selects it and a drag moves
-// it in the plane of the screen; both are reported by signals, with the planet's tsecs.
-class sceneView : public QOpenGLWidget {
+class SceneSurface;
+class screenView;
+
+// The 3D view of the document area: the planet scene drawn by the renderer over the
+// backdrop. A press on a planet selects it and a drag moves it in the plane of the screen;
+// both are reported by signals, with the planet's tsecs. The drawing happens in a window of
+// its own (SceneSurface) that this widget holds in place.
+class sceneView : public QWidget {
     Q_OBJECT
 public:
-    explicit sceneView(QWidget* parent);
-    ~sceneView() override;
+    sceneView(const screenView& backdrop, QWidget* parent);
 
     // The scene operations (planets, camera, light) and its mouse rules.
-    SceneView& scene() { return scene_; }
-    const SceneView& scene() const { return scene_; }
+    SceneView& scene();
 
     // The view's pixels at the backing scale, top row first, straight alpha; none, with
     // the reason in `error`, when the picture cannot be drawn.
     std::optional<Image> imageFromSceneKitView(std::string* error = nullptr);
-
-    // The reason the scene cannot be drawn on this machine, or empty.
-    const QString& rendererProblem() const { return rendererProblem_; }
+    // What the window shows there now, backdrop included.
+    QImage grabFramebuffer();
+    // Draws the scene again at the next frame.
+    void redraw();
+    // The window that takes the mouse.
+    QWindow& surface();
+    const QString& rendererProblem() const;
 
 signals:
     // "0" when the press hit no planet.
@@ -44,21 +46,11 @@ signals:
     void framePainted();
 
 protected:
-    void initializeGL() override;
-    void resizeGL(int width, int height) override;
-    void paintGL() override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    ViewPoint viewPoint(const QPointF& position) const;
-    void releaseRenderer();
-
-    SceneView scene_;
-    imageio::SurfaceLibrary surfaces_;
-    std::unique_ptr<Renderer> renderer_;
-    QString rendererProblem_;
+    SceneSurface* surface_;
+    QWidget* container_;
 };
 
 } // namespace orrery::window

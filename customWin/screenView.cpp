@@ -32,7 +32,9 @@ void screenView::changeBackColor(long index) {
                           QImage::Format_RGBA8888)
                        .mirrored(false, true);
     }
+    picture_ = QImage();
     update();
+    emit changed();
 }
 
 void screenView::refreshMe() {
@@ -41,23 +43,44 @@ void screenView::refreshMe() {
 
 void screenView::hideAxes(bool show) {
     showAxes_ = show;
+    picture_ = QImage();
     update();
+    emit changed();
 }
 
 void screenView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    if (!myImage_.isNull())
-        painter.drawImage(rect(), myImage_);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    if (showAxes_)
-        drawAxes(painter);
+    paintBackdrop(painter, rect());
 }
 
-void screenView::drawAxes(QPainter& painter) const {
-    const AxisCross cross = axisCross(width(), height());
-    const auto flip = [this](const AxisPoint& point) {
-        return QPointF(point.x, height() - point.y);
+void screenView::paintBackdrop(QPainter& painter, const QRect& area) const {
+    const qreal scale = painter.device()->devicePixelRatioF();
+    if (picture_.isNull() || picture_.deviceIndependentSize() != QSizeF(area.size()) ||
+        picture_.devicePixelRatio() != scale) {
+        picture_ = QImage(area.size() * scale, QImage::Format_ARGB32_Premultiplied);
+        picture_.setDevicePixelRatio(scale);
+        QPainter drawing(&picture_);
+        drawBackdrop(drawing, area.size());
+    }
+    painter.drawImage(area, picture_);
+}
+
+void screenView::drawBackdrop(QPainter& painter, const QSize& size) const {
+    const QRect area(QPoint(0, 0), size);
+    painter.save();
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    if (!myImage_.isNull())
+        painter.drawImage(area, myImage_);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    if (showAxes_)
+        drawAxes(painter, area.size());
+    painter.restore();
+}
+
+void screenView::drawAxes(QPainter& painter, const QSize& size) const {
+    const AxisCross cross = axisCross(size.width(), size.height());
+    const auto flip = [&size](const AxisPoint& point) {
+        return QPointF(point.x, size.height() - point.y);
     };
     painter.setRenderHint(QPainter::Antialiasing);
     const auto stroke = [&](const auto& segments, const Color& colour) {

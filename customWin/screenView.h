@@ -27,16 +27,26 @@ public:
     long currentColor() const { return currentColor_; }
     bool showsAxes() const { return showAxes_; }
 
+    // Paints the backdrop into an area of the view's size: here, and under the scene. The
+    // picture is drawn once for each look and size and then only copied.
+    void paintBackdrop(QPainter& painter, const QRect& area) const;
+
+signals:
+    // The backdrop looks different: whatever shows it draws again.
+    void changed();
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void drawAxes(QPainter& painter) const;
+    void drawBackdrop(QPainter& painter, const QSize& size) const;
+    void drawAxes(QPainter& painter, const QSize& size) const;
 
     long currentColor_ = 0;
     Image background_; // the pixels myImage_ wraps
     QImage myImage_;
     bool showAxes_ = true;
+    mutable QImage picture_; // the backdrop as last drawn, at a device's scale
 };
 
 } // namespace orrery::window

@@ -3,6 +3,7 @@
 #include "core/model/TextNumber.h"
 #include "core/scene/PlanetNodes.h"
 
+#include <unordered_set>
 #include <utility>
 
 namespace orrery {
@@ -98,6 +99,20 @@ void SceneView::deletePlanet(std::string_view tsecs) {
         node->removeFromParentNode();
         setNeedsDisplay();
     }
+}
+
+void SceneView::deletePlanets(const std::vector<std::string>& tsecsList) {
+    std::unordered_set<std::string> names;
+    for (const std::string& tsecs : tsecsList)
+        names.insert(planetNodeName(tsecs));
+    std::vector<std::shared_ptr<SceneNode>> doomed;
+    for (const auto& node : scene_.rootNode().children())
+        if (names.count(node->name()) != 0)
+            doomed.push_back(node);
+    for (const auto& node : doomed)
+        node->removeFromParentNode();
+    if (!doomed.empty())
+        setNeedsDisplay();
 }
 
 void SceneView::updateCamera(double xFov, double yFov, double x, double y, double z,

@@ -82,6 +82,9 @@ public:
     // State 0 hides, anything else shows.
     void updateStatus(std::string_view tsecs, std::int64_t state);
     void deletePlanet(std::string_view tsecs);
+    // The same for many planets at once, in one pass over the scene: what clearing the
+    // system does, however many planets it holds.
+    void deletePlanets(const std::vector<std::string>& tsecsList);
 
     // Camera and light. The recorded field of view and flags are kept for the popover and
     // the project file only: the picture always uses the perspective set up at the start.

@@ -96,6 +96,10 @@ TEST(SceneViewPlanets, SameNameNodesAreAlwaysTreatedTogether) {
 
     view.deletePlanet("7");
     EXPECT_EQ(childNames(view), (std::vector<std::string>{"", "light", "planet77"}));
+    // Clearing many at once removes the same nodes and leaves camera and light.
+    view.createPlanet("7", "0", "0", "0", "24");
+    view.deletePlanets({"77", "7", "light", ""});
+    EXPECT_EQ(childNames(view), (std::vector<std::string>{"", "light"}));
 }
 
 TEST(SceneViewPlanets, UnknownTsecsChangesNothing_AndCameraAndLightNeverMatch) {

@@ -1,0 +1,122 @@
+#include "customWin/SceneSurface.h"
+
+#include "core/support/Log.h"
+#include "customWin/screenView.h"
+#include "render/Renderer.h"
+
+#include <QMouseEvent>
+#include <QOpenGLContext>
+#include <QPainter>
+
+#include <cmath>
+
+namespace orrery::window {
+namespace {
+
+int devicePixels(int points, qreal scale) {
+    return static_cast<int>(std::lround(points * scale));
+}
+
+} // namespace
+
+SceneSurface::SceneSurface(const screenView& backdrop)
+    : QOpenGLWindow(QOpenGLWindow::NoPartialUpdate), backdrop_(backdrop) {
+    scene_.setNeedsDisplayHandler([this] { update(); });
+    scene_.setController(
+        {[this](const std::string& tsecs) { emit planetHit(QString::fromStdString(tsecs)); },
+         [this](const std::string& tsecs, const std::string& x, const std::string& y,
+                const std::string& z) {
+             emit planetMoved(QString::fromStdString(tsecs), QString::fromStdString(x),
+                              QString::fromStdString(y), QString::fromStdString(z));
+         }});
+}
+
+SceneSurface::~SceneSurface() {
+    releaseRenderer();
+}
+
+void SceneSurface::releaseRenderer() {
+    if (!renderer_)
+        return;
+    makeCurrent();
+    renderer_.reset();
+    doneCurrent();
+}
+
+void SceneSurface::initializeGL() {
+    connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &SceneSurface::releaseRenderer,
+            Qt::UniqueConnection);
+    std::string error;
+    renderer_ = Renderer::create(
+        [this](const std::string& name) { return surfaces_.surfaceNamed(name); }, &error);
+    if (!renderer_) {
+        rendererProblem_ = QString::fromStdString(error);
+        logMessage("The scene cannot be drawn: " + error);
+        return;
+    }
+    // The planets are laid over the backdrop drawn just before them.
+    renderer_->setBlendOverTarget(true);
+}
+
+void SceneSurface::resizeGL(int, int) {
+    // The scene works in points; the renderer is given device pixels when it draws.
+    scene_.setViewSize(width(), height());
+}
+
+void SceneSurface::paintGL() {
+    {
+        QPainter painter(this);
+        backdrop_.paintBackdrop(painter, QRect(QPoint(0, 0), size()));
+    }
+    if (renderer_) {
+        const qreal scale = devicePixelRatio();
+        std::string error;
+        if (!renderer_->render(scene_, defaultFramebufferObject(), devicePixels(width(), scale),
+                               devicePixels(height(), scale), &error))
+            logMessage("Drawing the scene failed: " + error);
+    }
+    emit framePainted();
+}
+
+std::optional<Image> SceneSurface::picture(std::string* error) {
+    if (!renderer_) {
+        if (error != nullptr)
+            *error = rendererProblem_.isEmpty() ? "the scene has not been shown yet"
+                                                : rendererProblem_.toStdString();
+        return std::nullopt;
+    }
+    const qreal scale = devicePixelRatio();
+    makeCurrent();
+    std::optional<Image> picture = renderer_->renderImage(
+        scene_, devicePixels(width(), scale), devicePixels(height(), scale), error);
+    doneCurrent();
+    return picture;
+}
+
+ViewPoint SceneSurface::viewPoint(const QPointF& position) const {
+    // The scene counts y upwards from the bottom-left corner.
+    return {position.x(), height() - position.y()};
+}
+
+void SceneSurface::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton)
+        return QOpenGLWindow::mousePressEvent(event);
+    scene_.mouseDown(viewPoint(event->position()));
+    event->accept();
+}
+
+void SceneSurface::mouseMoveEvent(QMouseEvent* event) {
+    if (!(event->buttons() & Qt::LeftButton))
+        return QOpenGLWindow::mouseMoveEvent(event);
+    scene_.mouseDragged(viewPoint(event->position()));
+    event->accept();
+}
+
+void SceneSurface::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton)
+        return QOpenGLWindow::mouseReleaseEvent(event);
+    scene_.mouseUp();
+    event->accept();
+}
+
+} // namespace orrery::window

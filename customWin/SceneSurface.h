@@ -1,0 +1,59 @@
+#pragma once
+
+#include "core/scene/SceneView.h"
+#include "core/styles/Image.h"
+#include "imageio/SurfaceLibrary.h"
+
+#include <QOpenGLWindow>
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace orrery {
+class Renderer;
+}
+
+namespace orrery::window {
+
+class screenView;
+
+// The window the scene is drawn in: a native OpenGL window of its own inside the main
+// window, so that a frame costs only the scene and not a composition of the whole main
+// window. It draws the backdrop first and the planets over it, and redraws only when the
+// scene or the backdrop changed.
+class SceneSurface : public QOpenGLWindow {
+    Q_OBJECT
+public:
+    explicit SceneSurface(const screenView& backdrop);
+    ~SceneSurface() override;
+
+    SceneView& scene() { return scene_; }
+    std::optional<Image> picture(std::string* error);
+    const QString& rendererProblem() const { return rendererProblem_; }
+
+signals:
+    void planetHit(const QString& tsecs);
+    void planetMoved(const QString& tsecs, const QString& x, const QString& y, const QString& z);
+    void framePainted();
+
+protected:
+    void initializeGL() override;
+    void resizeGL(int width, int height) override;
+    void paintGL() override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    ViewPoint viewPoint(const QPointF& position) const;
+    void releaseRenderer();
+
+    const screenView& backdrop_;
+    SceneView scene_;
+    imageio::SurfaceLibrary surfaces_;
+    std::unique_ptr<Renderer> renderer_;
+    QString rendererProblem_;
+};
+
+} // namespace orrery::window
