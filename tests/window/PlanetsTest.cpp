@@ -128,11 +128,11 @@ private slots:
         auto* x = qobject_cast<QLineEdit*>(app().tableView1().control(PlanetColumn::x));
         type(*x, "-200", Qt::Key_Return);
         const QPoint centre(scene.width() / 2, scene.height() / 2);
-        QTest::mousePress(&scene, Qt::LeftButton, {}, centre);
+        QTest::mousePress(&scene.surface(), Qt::LeftButton, {}, centre);
         QCOMPARE(app().tableView1().selectedRow(), std::optional<std::size_t>(1));
         for (int step = 1; step <= 5; ++step)
-            QTest::mouseMove(&scene, centre + QPoint(20 * step, 0));
-        QTest::mouseRelease(&scene, Qt::LeftButton, {}, centre + QPoint(100, 0));
+            QTest::mouseMove(&scene.surface(), centre + QPoint(20 * step, 0));
+        QTest::mouseRelease(&scene.surface(), Qt::LeftButton, {}, centre + QPoint(100, 0));
         QVERIFY(std::stod(record(1).xvalue) > 50.0);
         QCOMPARE(app().tableView1().model()->index(1, 4).data().toString(),
                  QString::fromStdString(record(1).xvalue));

@@ -77,12 +77,12 @@ private slots:
 
         QSignalSpy hits(&scene, &sceneView::planetHit);
         QSignalSpy moves(&scene, &sceneView::planetMoved);
-        QTest::mousePress(&scene, Qt::LeftButton, {}, centre);
+        QTest::mousePress(&scene.surface(), Qt::LeftButton, {}, centre);
         QCOMPARE(hits.size(), 1);
         QCOMPARE(hits.first().first().toString(), QStringLiteral("1424700000"));
         for (int step = 1; step <= 10; ++step)
-            QTest::mouseMove(&scene, centre + QPoint(10 * step, 0));
-        QTest::mouseRelease(&scene, Qt::LeftButton, {}, centre + QPoint(100, 0));
+            QTest::mouseMove(&scene.surface(), centre + QPoint(10 * step, 0));
+        QTest::mouseRelease(&scene.surface(), Qt::LeftButton, {}, centre + QPoint(100, 0));
         QVERIFY(moves.size() >= 1);
         const QList<QVariant> last = moves.last();
         QCOMPARE(last.at(0).toString(), QStringLiteral("1424700000"));
@@ -93,11 +93,11 @@ private slots:
         QVERIFY(!isPlanet(pixelOnScreen(scene, centre - QPoint(40, 0))));
 
         // A press on empty space selects nothing and a drag then moves nothing.
-        QTest::mousePress(&scene, Qt::LeftButton, {}, QPoint(20, 20));
+        QTest::mousePress(&scene.surface(), Qt::LeftButton, {}, QPoint(20, 20));
         QCOMPARE(hits.last().first().toString(), QStringLiteral("0"));
         const qsizetype movesBefore = moves.size();
-        QTest::mouseMove(&scene, QPoint(60, 20));
-        QTest::mouseRelease(&scene, Qt::LeftButton, {}, QPoint(60, 20));
+        QTest::mouseMove(&scene.surface(), QPoint(60, 20));
+        QTest::mouseRelease(&scene.surface(), Qt::LeftButton, {}, QPoint(60, 20));
         QCOMPARE(moves.size(), movesBefore);
     }
 };

@@ -14,6 +14,7 @@ FreshStart::FreshStart() : savedHome_(qgetenv("HOME")) {
     // A home of its own too: the panels start in the documents folder, which is the home
     // folder when there is no other.
     qputenv("XDG_DATA_HOME", dataHome_.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", dataHome_.path().toLocal8Bit());
     qputenv("HOME", dataHome_.path().toLocal8Bit());
     delegate_ = std::make_unique<AppDelegate>();
 }
@@ -21,6 +22,7 @@ FreshStart::FreshStart() : savedHome_(qgetenv("HOME")) {
 FreshStart::~FreshStart() {
     delegate_.reset();
     qunsetenv("XDG_DATA_HOME");
+    qunsetenv("XDG_CONFIG_HOME");
     qputenv("HOME", savedHome_);
 }
 
