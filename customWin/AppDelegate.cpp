@@ -110,8 +110,8 @@ void AppDelegate::placeMainWindow(const WindowPlacement& placement) {
         const QSize size = QSize(stored.width, stored.height)
                                .expandedTo(mainWindow_->minimumSize())
                                .boundedTo(mainWindow_->maximumSize());
-        const ScreenRect frame = bringOntoScreens(
-            {stored.left, stored.top, size.width(), size.height()}, screens);
+        const ScreenRect frame =
+            bringOntoScreens({stored.left, stored.top, size.width(), size.height()}, screens);
         mainWindow_->setGeometry(toQRect(frame));
         state_.gWidth = placement.gradation.width;
         state_.gHeight = placement.gradation.height;
@@ -153,9 +153,10 @@ void AppDelegate::saveWindowFrame() {
 
 // Table Windows holds each frame as Width, Height, Left and Top with the window's number.
 void AppDelegate::storeFrame(const QRect& frame, char windowNumber) {
-    const std::pair<int, const char*> values[] = {
-        {frame.width(), "Width"}, {frame.height(), "Height"}, {frame.left(), "Left"},
-        {frame.top(), "Top"}};
+    const std::pair<int, const char*> values[] = {{frame.width(), "Width"},
+                                                  {frame.height(), "Height"},
+                                                  {frame.left(), "Left"},
+                                                  {frame.top(), "Top"}};
     for (const auto& [value, field] : values)
         settings_.saveData0(formatF(value), std::string(field) + windowNumber);
 }

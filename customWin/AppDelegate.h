@@ -20,6 +20,7 @@
 #include <optional>
 
 class QLineEdit;
+class QUrl;
 class QPrinter;
 
 namespace orrery::window {
@@ -186,6 +187,7 @@ private:
 
     // Menus.
     void connectMenuActions();
+    void askToOpenPage(const QString& question, const QUrl& page);
     void showAbout();
 
     // Chrome and frames (AppDelegateWindow.cpp).
@@ -208,6 +210,8 @@ private:
     void searchSaveFrame();
     void gradationWillClose();
     void searchWillClose();
+    // Keeps a closing secondary window's frame for its next opening.
+    static void keepFrame(const QWidget& window, int& width, int& height, int& left, int& top);
 
     QString appName_;
     AppState state_;

@@ -146,9 +146,9 @@ void AppDelegate::cameraFieldEdited(const QLineEdit& edited) {
         return;
     CameraPopover& camera = *popOver5_;
     editor_->setCamera(number(camera.xfovField5()), number(camera.yfovField5()),
-                       number(camera.xField5()), number(camera.yField5()),
-                       number(camera.zField5()), camera.orthoButton5().isChecked(),
-                       camera.adjustZButton5().isChecked(), editSessionFor(edited));
+                       number(camera.xField5()), number(camera.yField5()), number(camera.zField5()),
+                       camera.orthoButton5().isChecked(), camera.adjustZButton5().isChecked(),
+                       editSessionFor(edited));
 }
 
 void AppDelegate::lightFieldEdited(const QLineEdit& edited) {
@@ -174,9 +174,8 @@ void AppDelegate::applyCameraSwitches() {
         return;
     lastEditedField_ = nullptr;
     editor_->setCamera(number(camera.xfovField5()), number(camera.yfovField5()),
-                       number(camera.xField5()), number(camera.yField5()),
-                       number(camera.zField5()), camera.orthoButton5().isChecked(),
-                       camera.adjustZButton5().isChecked());
+                       number(camera.xField5()), number(camera.yField5()), number(camera.zField5()),
+                       camera.orthoButton5().isChecked(), camera.adjustZButton5().isChecked());
 }
 
 void AppDelegate::setCameraDefault() {

@@ -122,7 +122,8 @@ void AppDelegate::removeAllPlanets() {
 }
 
 void AppDelegate::saveProject1(std::function<void()> then) {
-    if (state_.projectpath.empty() || !QFileInfo::exists(QString::fromStdString(state_.projectpath))) {
+    if (state_.projectpath.empty() ||
+        !QFileInfo::exists(QString::fromStdString(state_.projectpath))) {
         saveAsProject1(std::move(then));
         return;
     }
@@ -132,8 +133,8 @@ void AppDelegate::saveProject1(std::function<void()> then) {
 // Save As starts in the export folder, where the pictures of the system go.
 void AppDelegate::saveAsProject1(std::function<void()> then) {
     saveMenuStatus();
-    const QString folder = QString::fromStdString(
-        exportFolder(settings_.preferenceArray, documentsFolder()).string());
+    const QString folder =
+        QString::fromStdString(exportFolder(settings_.preferenceArray, documentsFolder()).string());
     savePackagePanel(*mainWindow_, folder,
                      {textWith("saveDocumentMessage", appName_),
                       textWith("saveDocumentWindow", appName_), text("saveDocumentFile")},
@@ -278,8 +279,7 @@ void AppDelegate::showOpenedCameraAndLight(const OpenedProject& project) {
 }
 
 void AppDelegate::showFailure(const QString& message, const std::string& reason) {
-    askOnSheet(*mainWindow_, message, QString::fromStdString(reason), {text("yes")},
-               [](int) {});
+    askOnSheet(*mainWindow_, message, QString::fromStdString(reason), {text("yes")}, [](int) {});
 }
 
 // Before the system on screen is replaced or the program ends, unsaved changes are offered
@@ -290,8 +290,9 @@ void AppDelegate::askToSaveChanges(std::function<void()> then) {
         return;
     }
     saveMenuStatus();
-    const QString name = titleBase_.isEmpty() ? text("saveDocumentFile")
-                                              : packageName(QString::fromStdString(state_.projectpath));
+    const QString name = titleBase_.isEmpty()
+                             ? text("saveDocumentFile")
+                             : packageName(QString::fromStdString(state_.projectpath));
     askOnSheet(*mainWindow_, textWith("saveChangesMsg", name), text("saveChangesInformative"),
                {text("saveChangesSave"), text("saveChangesDiscard"), text("saveChangesCancel")},
                [this, then = std::move(then)](int answer) {

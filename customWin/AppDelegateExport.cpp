@@ -42,18 +42,19 @@ void AppDelegate::FileExport1() {
         includeBackgroundChoice(state_.currentBackground, includePreference);
     accessory->includeButton1().setEnabled(include.enabled);
     accessory->includeButton1().setChecked(include.on);
-    askOnSheet(*mainWindow_, text("exportImageSelectingExportFormat"), QString(),
-               {text("exportImageNext"), text("exportImageCancel")},
-               [this, accessory](int answer) {
-                   if (answer != kFirstButton) {
-                       loadMenuStatus();
-                       return;
-                   }
-                   const bool withBackground = accessory->includeButton1().isChecked();
-                   QTimer::singleShot(kPanelDelayMs, this,
-                                      [this, withBackground] { FileExport2(withBackground); });
-               },
-               accessory);
+    askOnSheet(
+        *mainWindow_, text("exportImageSelectingExportFormat"), QString(),
+        {text("exportImageNext"), text("exportImageCancel")},
+        [this, accessory](int answer) {
+            if (answer != kFirstButton) {
+                loadMenuStatus();
+                return;
+            }
+            const bool withBackground = accessory->includeButton1().isChecked();
+            QTimer::singleShot(kPanelDelayMs, this,
+                               [this, withBackground] { FileExport2(withBackground); });
+        },
+        accessory);
 }
 
 // The save panel of the chosen format; JPEG and JPEG 2000 carry the compression slider.
@@ -67,8 +68,8 @@ void AppDelegate::FileExport2(bool withBackground) {
         compression->compressSlider2().setValue(percent);
         compression->compressLabel2().setText(QString::number(percent) + QLatin1Char('%'));
     }
-    const QString folder = QString::fromStdString(
-        exportFolder(settings_.preferenceArray, documentsFolder()).string());
+    const QString folder =
+        QString::fromStdString(exportFolder(settings_.preferenceArray, documentsFolder()).string());
     savePicturePanel(
         *mainWindow_, folder,
         {text("exportImageTitle"), text("exportImageSelectFilePath"),
@@ -94,8 +95,7 @@ void AppDelegate::exportPicture(const QString& path, ExportFormat format, bool w
         showFailure(text("exportFailedMsg"), error);
         return;
     }
-    const Image picture =
-        orrery::exportPicture(*scene, state_.currentBackground, withBackground);
+    const Image picture = orrery::exportPicture(*scene, state_.currentBackground, withBackground);
     const std::string target = path.toStdString();
     runWithProgress<std::string>(
         *mainWindow_, text("exportImageSavingNewImage"),

@@ -135,21 +135,20 @@ void AppDelegate::sceneColorAllOff() {
 }
 
 void AppDelegate::userguideHelp() {
-    saveMenuStatus();
-    askOnSheet(*mainWindow_, text("access userguide"), QString(), {text("yes"), text("cancel")},
-               [this](int response) {
-                   if (response == kFirstButton)
-                       QDesktopServices::openUrl(userGuideAddress());
-                   loadMenuStatus();
-               });
+    askToOpenPage(text("access userguide"), userGuideAddress());
 }
 
 void AppDelegate::supportHelp() {
+    askToOpenPage(text("access website"), supportPageAddress());
+}
+
+// A help page opens in the browser only once the person said yes.
+void AppDelegate::askToOpenPage(const QString& question, const QUrl& page) {
     saveMenuStatus();
-    askOnSheet(*mainWindow_, text("access website"), QString(), {text("yes"), text("cancel")},
-               [this](int response) {
+    askOnSheet(*mainWindow_, question, QString(), {text("yes"), text("cancel")},
+               [this, page](int response) {
                    if (response == kFirstButton)
-                       QDesktopServices::openUrl(supportPageAddress());
+                       QDesktopServices::openUrl(page);
                    loadMenuStatus();
                });
 }

@@ -46,7 +46,9 @@ void AppDelegate::buildPlanetPanel() {
         [this](PlanetColumn column, const QString& typed) { textChange(column, typed); },
         [this](int on) { stateChange1_02(on); },
         [this](PlanetColumn column, int index) { indexChange(column, index); },
-        [this](const Color& color) { colorChange1_09(color); }};
+        [this](const Color& color) {
+            colorChange1_09(color);
+        }};
     planetModel_ = new PlanetTableModel(state_.planetArray, this);
     tableView1_ = new PlanetTable(*planetModel_, cellHandlers_, &planetPanel());
     planetPanel().setTable(tableView1_);
@@ -180,8 +182,7 @@ void AppDelegate::create3Clicked() {
     const QString name = accessoryView3_->nameField3().text();
     if (!validateCreatePlanet(name.toStdString()))
         return;
-    const std::size_t row =
-        editor_->createPlanet(std::to_string(Totalsecs()), name.toStdString());
+    const std::size_t row = editor_->createPlanet(std::to_string(Totalsecs()), name.toStdString());
     planetModel_->rowInserted(static_cast<int>(row));
     closeCreationSheet();
 }

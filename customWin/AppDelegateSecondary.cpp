@@ -24,8 +24,8 @@ void placeSecondary(QWidget& window, int width, int height, int left, int top,
 void AppDelegate::openGradationWindow() {
     if (gradationWindow_ == nullptr) {
         gradationWindow_ = new gradationWindow(mainWindow_);
-        placeSecondary(*gradationWindow_, state_.gWidth, state_.gHeight, state_.gLeft,
-                       state_.gTop, *mainWindow_);
+        placeSecondary(*gradationWindow_, state_.gWidth, state_.gHeight, state_.gLeft, state_.gTop,
+                       *mainWindow_);
         connect(gradationWindow_, &FramedWindow::frameSettled, this,
                 &AppDelegate::gradationSaveFrame);
         connect(gradationWindow_, &FramedWindow::closing, this, &AppDelegate::gradationWillClose);
@@ -74,21 +74,21 @@ void AppDelegate::searchSaveFrame() {
     storeFrame(searchWindow_->frameGeometry(), '2');
 }
 
+void AppDelegate::keepFrame(const QWidget& window, int& width, int& height, int& left, int& top) {
+    const QRect frame = window.frameGeometry();
+    width = frame.width();
+    height = frame.height();
+    left = frame.left();
+    top = frame.top();
+}
+
 void AppDelegate::gradationWillClose() {
-    const QRect frame = gradationWindow_->frameGeometry();
-    state_.gWidth = frame.width();
-    state_.gHeight = frame.height();
-    state_.gLeft = frame.left();
-    state_.gTop = frame.top();
+    keepFrame(*gradationWindow_, state_.gWidth, state_.gHeight, state_.gLeft, state_.gTop);
     state_.isGradationOpen = false;
 }
 
 void AppDelegate::searchWillClose() {
-    const QRect frame = searchWindow_->frameGeometry();
-    state_.sWidth = frame.width();
-    state_.sHeight = frame.height();
-    state_.sLeft = frame.left();
-    state_.sTop = frame.top();
+    keepFrame(*searchWindow_, state_.sWidth, state_.sHeight, state_.sLeft, state_.sTop);
     state_.isSearchOpen = false;
 }
 

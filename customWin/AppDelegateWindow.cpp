@@ -22,8 +22,8 @@ namespace orrery::window {
 namespace {
 
 constexpr int kButtonSize = 16;
-constexpr int kButtonTop = 4;   // 20 below the window's top edge, counted to the bottom
-constexpr int kTitleTop = 3;    // 28 below the top edge, counted to the bottom
+constexpr int kButtonTop = 4; // 20 below the window's top edge, counted to the bottom
+constexpr int kTitleTop = 3;  // 28 below the top edge, counted to the bottom
 constexpr int kTitleHeight = 25;
 
 ImageButton* makeTitleButton(const char* name, const char* image, const char* accessibleKey,
@@ -59,8 +59,8 @@ void AppDelegate::buildTitleBar() {
     titleLabel0_->setText(appName_);
     closeButton0_ =
         makeTitleButton("closeButton0", "close-active-color", "accessibleCloseButton", &content);
-    minButton0_ = makeTitleButton("minButton0", "minimize-active-color",
-                                  "accessibleMinimizeButton", &content);
+    minButton0_ = makeTitleButton("minButton0", "minimize-active-color", "accessibleMinimizeButton",
+                                  &content);
     maxButton0_ =
         makeTitleButton("maxButton0", "zoom-active-color", "accessibleZoomButton", &content);
     fullButton0_ =
@@ -75,9 +75,10 @@ void AppDelegate::buildTitleBar() {
         connect(button, &ImageButton::pointerEntered, this, &AppDelegate::mouseEntered);
         connect(button, &ImageButton::pointerLeft, this, &AppDelegate::mouseExited);
     }
-    for (QWidget* control : {static_cast<QWidget*>(titleLabel0_),
-                             static_cast<QWidget*>(closeButton0_), static_cast<QWidget*>(minButton0_),
-                             static_cast<QWidget*>(maxButton0_), static_cast<QWidget*>(fullButton0_)})
+    for (QWidget* control :
+         {static_cast<QWidget*>(titleLabel0_), static_cast<QWidget*>(closeButton0_),
+          static_cast<QWidget*>(minButton0_), static_cast<QWidget*>(maxButton0_),
+          static_cast<QWidget*>(fullButton0_)})
         control->show();
     windowWillResize();
 }
@@ -104,8 +105,9 @@ void AppDelegate::windowWillResize() {
     minButton0_->move(28, kButtonTop);
     maxButton0_->move(48, kButtonTop);
     fullButton0_->move(width - 20, kButtonTop);
-    for (QWidget* button : {static_cast<QWidget*>(closeButton0_), static_cast<QWidget*>(minButton0_),
-                            static_cast<QWidget*>(maxButton0_), static_cast<QWidget*>(fullButton0_)})
+    for (QWidget* button :
+         {static_cast<QWidget*>(closeButton0_), static_cast<QWidget*>(minButton0_),
+          static_cast<QWidget*>(maxButton0_), static_cast<QWidget*>(fullButton0_)})
         button->raise();
     mainWindow_->content().update();
 }
@@ -136,7 +138,8 @@ void AppDelegate::refreshViews() {
 void AppDelegate::showDocumentSize() {
     const QSize area = mainWindow_->content().documentArea().size();
     headerView& header = mainWindow_->content().header();
-    header.widthField1().setText(QString::fromStdString(formatFixed(area.width() - kDocumentFrame, 0)));
+    header.widthField1().setText(
+        QString::fromStdString(formatFixed(area.width() - kDocumentFrame, 0)));
     header.heightField1().setText(
         QString::fromStdString(formatFixed(area.height() - kDocumentFrame, 0)));
     markValid(header.widthField1(), true);
@@ -191,9 +194,10 @@ void AppDelegate::fullWindowClicked() {
 
 void AppDelegate::windowWillEnterFullscreen() {
     state_.enteringFull = true;
-    for (QWidget* control : {static_cast<QWidget*>(titleLabel0_),
-                             static_cast<QWidget*>(closeButton0_), static_cast<QWidget*>(minButton0_),
-                             static_cast<QWidget*>(maxButton0_), static_cast<QWidget*>(fullButton0_)})
+    for (QWidget* control :
+         {static_cast<QWidget*>(titleLabel0_), static_cast<QWidget*>(closeButton0_),
+          static_cast<QWidget*>(minButton0_), static_cast<QWidget*>(maxButton0_),
+          static_cast<QWidget*>(fullButton0_)})
         control->hide();
     mainWindow_->content().setTitleStripShown(false);
     menus_.windowFullScreen->setChecked(true);
@@ -208,9 +212,9 @@ void AppDelegate::windowDidEnterFullscreen() {
 void AppDelegate::windowDidExitFullscreen() {
     state_.enteringFull = false;
     mainWindow_->content().setTitleStripShown(true);
-    for (QWidget* control : {static_cast<QWidget*>(titleLabel0_),
-                             static_cast<QWidget*>(closeButton0_), static_cast<QWidget*>(minButton0_),
-                             static_cast<QWidget*>(maxButton0_)})
+    for (QWidget* control :
+         {static_cast<QWidget*>(titleLabel0_), static_cast<QWidget*>(closeButton0_),
+          static_cast<QWidget*>(minButton0_), static_cast<QWidget*>(maxButton0_)})
         control->show();
     fullButton0_->setVisible(state_.canEnterFull);
     menus_.windowFullScreen->setChecked(false);

@@ -1,7 +1,7 @@
 #include "customWin/CameraPopover.h"
 
-#include "customWin/Strings.h"
 #include "customWin/FieldValidity.h"
+#include "customWin/Strings.h"
 #include "customWin/tableView1/colorWell1_09.h"
 
 #include <QCheckBox>

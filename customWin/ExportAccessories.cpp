@@ -19,8 +19,8 @@ accessoryView1::accessoryView1(QWidget* parent)
     formats_->setObjectName(QStringLiteral("exportPopup1"));
     include_->setObjectName(QStringLiteral("includeButton1"));
     for (const ExportFormatInfo& format : kExportFormats)
-        formats_->addItem(QString::fromUtf8(format.name.data(),
-                                            static_cast<qsizetype>(format.name.size())));
+        formats_->addItem(
+            QString::fromUtf8(format.name.data(), static_cast<qsizetype>(format.name.size())));
     auto* label = new QLabel(text("controlAccessory1Label1"), this);
     label->setBuddy(formats_);
     formats_->setAccessibleName(label->text());

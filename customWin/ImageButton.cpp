@@ -6,8 +6,7 @@
 
 namespace orrery::window {
 
-ImageButton::ImageButton(const QString& imageName, QWidget* parent)
-    : QAbstractButton(parent) {
+ImageButton::ImageButton(const QString& imageName, QWidget* parent) : QAbstractButton(parent) {
     setFocusPolicy(Qt::NoFocus);
     setCursor(Qt::ArrowCursor);
     setImage(imageName);

@@ -92,8 +92,8 @@ void buildPlanetAndSceneMenus(QMenuBar& bar, MenuItems& m) {
     const char* names[] = {"sceneColorTransparent", "sceneColorWhite", "sceneColorBlack",
                            "sceneColorDNB",         "sceneColorDDNB",  "sceneColorDDDNB"};
     for (std::size_t i = 0; i < m.sceneColorItems.size(); ++i) {
-        QAction* item = addItem(*m.sceneColors, names[i],
-                                QKeySequence(QStringLiteral("Ctrl+%1").arg(i)));
+        QAction* item =
+            addItem(*m.sceneColors, names[i], QKeySequence(QStringLiteral("Ctrl+%1").arg(i)));
         item->setCheckable(true);
         colours->addAction(item);
         m.sceneColorItems[i] = item;
@@ -102,7 +102,8 @@ void buildPlanetAndSceneMenus(QMenuBar& bar, MenuItems& m) {
 
 void buildWindowAndHelpMenus(QMenuBar& bar, MenuItems& m) {
     m.windowMenu = addMenu(bar, "windowMenu");
-    m.windowMinimize = addItem(*m.windowMenu, "windowMinimize", QKeySequence(QStringLiteral("Ctrl+M")));
+    m.windowMinimize =
+        addItem(*m.windowMenu, "windowMinimize", QKeySequence(QStringLiteral("Ctrl+M")));
     m.windowZoom = addItem(*m.windowMenu, "windowZoom");
     m.windowFullScreen = addItem(*m.windowMenu, "windowFullScreen");
     // F11 everywhere, and the desktop's own key where that is another one (Ctrl+F11).

@@ -37,12 +37,11 @@ QFileDialog* makePanel(QWidget& window, const QString& folder, const PanelTexts&
 }
 
 void finishWith(QFileDialog* panel, std::function<void(const QString&)> chosen) {
-    QObject::connect(panel, &QFileDialog::finished, panel,
-                     [panel, chosen = std::move(chosen)](int result) {
-                         const QStringList files = panel->selectedFiles();
-                         chosen(result == QDialog::Accepted && !files.isEmpty() ? files.first()
-                                                                                 : QString());
-                     });
+    QObject::connect(
+        panel, &QFileDialog::finished, panel, [panel, chosen = std::move(chosen)](int result) {
+            const QStringList files = panel->selectedFiles();
+            chosen(result == QDialog::Accepted && !files.isEmpty() ? files.first() : QString());
+        });
     panel->open();
     placeAsSheet(*panel, *panel->parentWidget());
 }

@@ -26,7 +26,8 @@ QPushButton* makeButton(const char* name, const char* key, QWidget* parent) {
 PlanetPanel::PlanetPanel(QWidget* parent)
     : QWidget(parent), create_(makeButton("createPlanetButton1", "createPlanetButton", this)),
       delete_(makeButton("deletePlanetButton1", "deletePlanetButton", this)),
-      all_(new QCheckBox(text("allButton"), this)), status_(new QLabel(text("invalidValueStatus"), this)),
+      all_(new QCheckBox(text("allButton"), this)),
+      status_(new QLabel(text("invalidValueStatus"), this)),
       camera_(makeButton("cameraButton5", "cameraButton", this)),
       light_(makeButton("lightButton4", "lightButton", this)),
       export_(makeButton("exportButton1", "exportButton", this)) {

@@ -87,8 +87,8 @@ std::optional<Image> SceneSurface::picture(std::string* error) {
     }
     const qreal scale = devicePixelRatio();
     makeCurrent();
-    std::optional<Image> picture = renderer_->renderImage(
-        scene_, devicePixels(width(), scale), devicePixels(height(), scale), error);
+    std::optional<Image> picture = renderer_->renderImage(scene_, devicePixels(width(), scale),
+                                                          devicePixels(height(), scale), error);
     doneCurrent();
     return picture;
 }

@@ -46,10 +46,9 @@ void insertAboveButtons(QMessageBox& box, QWidget* accessory) {
 } // namespace
 
 void askOnSheet(QWidget& window, const QString& message, const QString& informative,
-                const QStringList& buttons, std::function<void(int)> answered,
-                QWidget* accessory) {
-    auto* box = new QMessageBox(QMessageBox::Question, QString(), message, QMessageBox::NoButton,
-                                &window);
+                const QStringList& buttons, std::function<void(int)> answered, QWidget* accessory) {
+    auto* box =
+        new QMessageBox(QMessageBox::Question, QString(), message, QMessageBox::NoButton, &window);
     box->setObjectName(QStringLiteral("questionSheet"));
     makeSheet(*box);
     box->setInformativeText(informative);
@@ -67,13 +66,12 @@ void askOnSheet(QWidget& window, const QString& message, const QString& informat
     if (accessory != nullptr)
         insertAboveButtons(*box, accessory);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(box, &QMessageBox::finished, box,
-                     [box, pushButtons, answered = std::move(answered)] {
-                         const auto index = pushButtons.indexOf(
-                             qobject_cast<QPushButton*>(box->clickedButton()));
-                         answered(kFirstButton +
-                                  static_cast<int>(index < 0 ? pushButtons.size() - 1 : index));
-                     });
+    QObject::connect(
+        box, &QMessageBox::finished, box, [box, pushButtons, answered = std::move(answered)] {
+            const auto index =
+                pushButtons.indexOf(qobject_cast<QPushButton*>(box->clickedButton()));
+            answered(kFirstButton + static_cast<int>(index < 0 ? pushButtons.size() - 1 : index));
+        });
     box->open();
     placeAsSheet(*box, window);
 }

@@ -33,7 +33,8 @@ int runWindow(int argc, char** argv) {
     // Without a display the toolkit would abort with a page of its own; one line says it.
     if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
         qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        const QByteArray program = QFileInfo(QString::fromLocal8Bit(argv[0])).fileName().toLocal8Bit();
+        const QByteArray program =
+            QFileInfo(QString::fromLocal8Bit(argv[0])).fileName().toLocal8Bit();
         std::fprintf(stderr, "%s: no display to open the window on; see %s --help\n",
                      program.constData(), program.constData());
         return 1;

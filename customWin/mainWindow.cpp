@@ -23,8 +23,8 @@ Qt::CursorShape cursorFor(Qt::Edges edges) {
     const bool horizontal = edges & (Qt::LeftEdge | Qt::RightEdge);
     const bool vertical = edges & (Qt::TopEdge | Qt::BottomEdge);
     if (horizontal && vertical) {
-        const bool falling = (edges & Qt::LeftEdge) ? bool(edges & Qt::TopEdge)
-                                                    : bool(edges & Qt::BottomEdge);
+        const bool falling =
+            (edges & Qt::LeftEdge) ? bool(edges & Qt::TopEdge) : bool(edges & Qt::BottomEdge);
         return falling ? Qt::SizeFDiagCursor : Qt::SizeBDiagCursor;
     }
     return horizontal ? Qt::SizeHorCursor : Qt::SizeVerCursor;

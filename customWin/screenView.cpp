@@ -28,8 +28,7 @@ void screenView::changeBackColor(long index) {
         // The squares are counted from the bottom-left corner, where the scene has its
         // origin; the picture's rows run from the top.
         myImage_ = QImage(background_.pixels.data(), background_.width, background_.height,
-                          static_cast<qsizetype>(background_.stride()),
-                          QImage::Format_RGBA8888)
+                          static_cast<qsizetype>(background_.stride()), QImage::Format_RGBA8888)
                        .mirrored(false, true);
     }
     picture_ = QImage();

@@ -62,7 +62,8 @@ void searchWindow::chooseNext(int step) {
     if (count == 0)
         return;
     const int current = matches_->currentRow();
-    chooseRow(current < 0 ? (step > 0 ? 0 : count - 1) : ((current + step) % count + count) % count);
+    chooseRow(current < 0 ? (step > 0 ? 0 : count - 1)
+                          : ((current + step) % count + count) % count);
 }
 
 void searchWindow::chooseRow(int row) {

@@ -27,8 +27,9 @@ void fold(EditStep& older, EditStep&& newer) {
             older.records.push_back(std::move(change));
     }
     for (PlanetNodesChange& change : newer.nodes) {
-        auto same = std::find_if(older.nodes.begin(), older.nodes.end(),
-                                 [&](const PlanetNodesChange& c) { return c.tsecs == change.tsecs; });
+        auto same =
+            std::find_if(older.nodes.begin(), older.nodes.end(),
+                         [&](const PlanetNodesChange& c) { return c.tsecs == change.tsecs; });
         if (same != older.nodes.end())
             same->after = std::move(change.after);
         else
@@ -67,18 +68,41 @@ std::optional<EditKind> EditHistory::redoKind() const {
     return canRedo() ? std::optional(steps_[done_].kind) : std::nullopt;
 }
 
+namespace {
+
+// Takes a step back (undo) or does it again: the records in reverse order going back, so
+// that indices mean what they meant when the step was taken.
+void applyStep(const EditStep& step, bool forward, PlanetList& planets, SceneView& scene) {
+    const auto from = [forward](const auto& change) -> const auto& {
+        return forward ? change.before : change.after;
+    };
+    const auto to = [forward](const auto& change) -> const auto& {
+        return forward ? change.after : change.before;
+    };
+    if (forward) {
+        for (const RecordChange& change : step.records)
+            applyRecord(planets, change.index, from(change), to(change));
+        for (const PlanetNodesChange& change : step.nodes)
+            scene.restorePlanet(change.tsecs, to(change));
+    } else {
+        for (auto change = step.records.rbegin(); change != step.records.rend(); ++change)
+            applyRecord(planets, change->index, from(*change), to(*change));
+        for (auto change = step.nodes.rbegin(); change != step.nodes.rend(); ++change)
+            scene.restorePlanet(change->tsecs, to(*change));
+    }
+    if (step.camera)
+        scene.setCameraState(forward ? step.camera->second : step.camera->first);
+    if (step.light)
+        scene.setLightState(forward ? step.light->second : step.light->first);
+}
+
+} // namespace
+
 const EditStep* EditHistory::undo(PlanetList& planets, SceneView& scene) {
     if (!canUndo())
         return nullptr;
     const EditStep& step = steps_[--done_];
-    for (auto change = step.records.rbegin(); change != step.records.rend(); ++change)
-        applyRecord(planets, change->index, change->after, change->before);
-    for (auto change = step.nodes.rbegin(); change != step.nodes.rend(); ++change)
-        scene.restorePlanet(change->tsecs, change->before);
-    if (step.camera)
-        scene.setCameraState(step.camera->first);
-    if (step.light)
-        scene.setLightState(step.light->first);
+    applyStep(step, false, planets, scene);
     touch();
     return &step;
 }
@@ -87,14 +111,7 @@ const EditStep* EditHistory::redo(PlanetList& planets, SceneView& scene) {
     if (!canRedo())
         return nullptr;
     const EditStep& step = steps_[done_++];
-    for (const RecordChange& change : step.records)
-        applyRecord(planets, change.index, change.before, change.after);
-    for (const PlanetNodesChange& change : step.nodes)
-        scene.restorePlanet(change.tsecs, change.after);
-    if (step.camera)
-        scene.setCameraState(step.camera->second);
-    if (step.light)
-        scene.setLightState(step.light->second);
+    applyStep(step, true, planets, scene);
     touch();
     return &step;
 }

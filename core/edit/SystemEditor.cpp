@@ -30,8 +30,8 @@ bool inRange(std::optional<std::size_t> row, const PlanetList& planets) {
 } // namespace
 
 template <typename SceneCall>
-void SystemEditor::replaceRecord(std::size_t row, PlanetRecord record, EditKind kind,
-                                 int mergeKey, SceneCall&& sceneCall) {
+void SystemEditor::replaceRecord(std::size_t row, PlanetRecord record, EditKind kind, int mergeKey,
+                                 SceneCall&& sceneCall) {
     EditStep step{kind, {}, {}, {}, {}, mergeKey};
     const std::string& tsecs = record.tsecs;
     step.nodes.push_back({tsecs, scene_.capturePlanet(tsecs), {}});
@@ -62,8 +62,8 @@ CellOutcome SystemEditor::editText(std::optional<std::size_t> row, PlanetKey key
 CellOutcome SystemEditor::editIndex(std::optional<std::size_t> row, PlanetKey key, long index) {
     if (!inRange(row, planets_))
         return CellOutcome::noRow;
-    replaceRecord(*row, rebuilt(planets_.at(*row), key, std::to_string(index)), EditKind::cell,
-                  0, [this](const PlanetRecord& record) { updatePlanetNode(record); });
+    replaceRecord(*row, rebuilt(planets_.at(*row), key, std::to_string(index)), EditKind::cell, 0,
+                  [this](const PlanetRecord& record) { updatePlanetNode(record); });
     return CellOutcome::stored;
 }
 
@@ -78,11 +78,9 @@ CellOutcome SystemEditor::editColor(std::optional<std::size_t> row, Color color)
 CellOutcome SystemEditor::editState(std::optional<std::size_t> row, int state) {
     if (!inRange(row, planets_))
         return CellOutcome::noRow;
-    replaceRecord(*row, rebuilt(planets_.at(*row), PlanetKey::state, std::to_string(state)),
-                  EditKind::cell, 0,
-                  [this, state](const PlanetRecord& record) {
-                      scene_.updateStatus(record.tsecs, state);
-                  });
+    replaceRecord(
+        *row, rebuilt(planets_.at(*row), PlanetKey::state, std::to_string(state)), EditKind::cell,
+        0, [this, state](const PlanetRecord& record) { scene_.updateStatus(record.tsecs, state); });
     return CellOutcome::stored;
 }
 
