@@ -46,16 +46,24 @@ void SceneSurface::releaseRenderer() {
 void SceneSurface::initializeGL() {
     connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &SceneSurface::releaseRenderer,
             Qt::UniqueConnection);
+}
+
+// The renderer is made when there is first something to draw: an empty scene is only its
+// backdrop, and the window comes up sooner without compiling shaders first.
+bool SceneSurface::ensureRenderer() {
+    if (renderer_ || !rendererProblem_.isEmpty())
+        return renderer_ != nullptr;
     std::string error;
     renderer_ = Renderer::create(
         [this](const std::string& name) { return surfaces_.surfaceNamed(name); }, &error);
     if (!renderer_) {
         rendererProblem_ = QString::fromStdString(error);
         logMessage("The scene cannot be drawn: " + error);
-        return;
+        return false;
     }
     // The planets are laid over the backdrop drawn just before them.
     renderer_->setBlendOverTarget(true);
+    return true;
 }
 
 void SceneSurface::resizeGL(int, int) {
@@ -68,7 +76,7 @@ void SceneSurface::paintGL() {
         QPainter painter(this);
         backdrop_.paintBackdrop(painter, QRect(QPoint(0, 0), size()));
     }
-    if (renderer_) {
+    if (scene_.hasPlanets() && ensureRenderer()) {
         const qreal scale = devicePixelRatio();
         std::string error;
         if (!renderer_->render(scene_, defaultFramebufferObject(), devicePixels(width(), scale),
@@ -79,14 +87,19 @@ void SceneSurface::paintGL() {
 }
 
 std::optional<Image> SceneSurface::picture(std::string* error) {
-    if (!renderer_) {
+    if (context() == nullptr) {
         if (error != nullptr)
-            *error = rendererProblem_.isEmpty() ? "the scene has not been shown yet"
-                                                : rendererProblem_.toStdString();
+            *error = "the scene has not been shown yet";
+        return std::nullopt;
+    }
+    makeCurrent();
+    if (!ensureRenderer()) {
+        doneCurrent();
+        if (error != nullptr)
+            *error = rendererProblem_.toStdString();
         return std::nullopt;
     }
     const qreal scale = devicePixelRatio();
-    makeCurrent();
     std::optional<Image> picture = renderer_->renderImage(scene_, devicePixels(width(), scale),
                                                           devicePixels(height(), scale), error);
     doneCurrent();

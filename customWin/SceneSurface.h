@@ -47,6 +47,7 @@ protected:
 
 private:
     ViewPoint viewPoint(const QPointF& position) const;
+    bool ensureRenderer();
     void releaseRenderer();
 
     const screenView& backdrop_;

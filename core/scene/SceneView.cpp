@@ -101,6 +101,13 @@ void SceneView::deletePlanet(std::string_view tsecs) {
     }
 }
 
+bool SceneView::hasPlanets() const {
+    for (const auto& node : scene_.rootNode().children())
+        if (node != cameraNode_ && node != lightNode_)
+            return true;
+    return false;
+}
+
 void SceneView::deletePlanets(const std::vector<std::string>& tsecsList) {
     std::unordered_set<std::string> names;
     for (const std::string& tsecs : tsecsList)

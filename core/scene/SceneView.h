@@ -82,6 +82,8 @@ public:
     // State 0 hides, anything else shows.
     void updateStatus(std::string_view tsecs, std::int64_t state);
     void deletePlanet(std::string_view tsecs);
+    // Whether any node besides the camera and the light is in the scene.
+    bool hasPlanets() const;
     // The same for many planets at once, in one pass over the scene: what clearing the
     // system does, however many planets it holds.
     void deletePlanets(const std::vector<std::string>& tsecsList);

@@ -98,8 +98,10 @@ TEST(SceneViewPlanets, SameNameNodesAreAlwaysTreatedTogether) {
     EXPECT_EQ(childNames(view), (std::vector<std::string>{"", "light", "planet77"}));
     // Clearing many at once removes the same nodes and leaves camera and light.
     view.createPlanet("7", "0", "0", "0", "24");
+    EXPECT_TRUE(view.hasPlanets());
     view.deletePlanets({"77", "7", "light", ""});
     EXPECT_EQ(childNames(view), (std::vector<std::string>{"", "light"}));
+    EXPECT_FALSE(view.hasPlanets());
 }
 
 TEST(SceneViewPlanets, UnknownTsecsChangesNothing_AndCameraAndLightNeverMatch) {
