@@ -133,10 +133,6 @@ public:
     void setLightDefault();
     void colorChanged4Clicked(const Color& color);
 
-signals:
-    // A planet was chosen in the find window: its table row is to be selected.
-    void planetChosen(const QString& tsecs);
-
 private:
     // Start-up steps.
     void screenOptions();
@@ -145,6 +141,8 @@ private:
     void makeNSControls();
     void registerWindowObservers();
     void buildTitleBar();
+    // The title first, then the buttons that lie over it.
+    QList<QWidget*> titleBarControls() const;
     void showDocumentSize();
 
     // Planets.
@@ -183,6 +181,7 @@ private:
     void cameraFieldEdited(const QLineEdit& edited);
     void lightFieldEdited(const QLineEdit& edited);
     void applyCameraSwitches();
+    void applyCamera(int mergeKey);
     int editSessionFor(const QLineEdit& field);
 
     // Menus.

@@ -15,6 +15,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <vector>
+
 namespace orrery::window {
 namespace {
 
@@ -23,23 +25,25 @@ struct CheckedField {
     bool (*check)(std::string_view);
 };
 
-// Paints every field by its own check; true when all pass.
-bool checkAll(std::initializer_list<CheckedField> fields) {
+// True when every field passes its check; `paint` marks each red or black as it goes.
+bool checkAll(const std::vector<CheckedField>& fields, bool paint) {
     bool all = true;
     for (const CheckedField& each : fields) {
         const bool valid = each.check(each.field->text().toStdString());
-        markValid(*each.field, valid);
+        if (paint)
+            markValid(*each.field, valid);
         all = all && valid;
     }
     return all;
 }
 
-// In order, stopping at the first failure, painting nothing.
-bool firstFails(std::initializer_list<CheckedField> fields) {
-    for (const CheckedField& each : fields)
-        if (!each.check(each.field->text().toStdString()))
-            return true;
-    return false;
+// Fields of view 30 to 90, the position any number, z in front of the origin.
+std::vector<CheckedField> cameraChecks(CameraPopover& camera) {
+    return {{&camera.xfovField5(), validateFov},
+            {&camera.yfovField5(), validateFov},
+            {&camera.xField5(), validatePosNegFloat},
+            {&camera.yField5(), validatePosNegFloat},
+            {&camera.zField5(), validatePosOnlyFloat}};
 }
 
 double number(const QLineEdit& field) {
@@ -133,29 +137,28 @@ void AppDelegate::showLightSettings() {
 }
 
 bool AppDelegate::markCameraFields() {
-    CameraPopover& camera = *popOver5_;
-    return checkAll({{&camera.xfovField5(), validateFov},
-                     {&camera.yfovField5(), validateFov},
-                     {&camera.xField5(), validatePosNegFloat},
-                     {&camera.yField5(), validatePosNegFloat},
-                     {&camera.zField5(), validatePosOnlyFloat}});
+    return checkAll(cameraChecks(*popOver5_), true);
 }
 
-void AppDelegate::cameraFieldEdited(const QLineEdit& edited) {
-    if (!markCameraFields())
-        return;
+void AppDelegate::applyCamera(int mergeKey) {
     CameraPopover& camera = *popOver5_;
     editor_->setCamera(number(camera.xfovField5()), number(camera.yfovField5()),
                        number(camera.xField5()), number(camera.yField5()), number(camera.zField5()),
                        camera.orthoButton5().isChecked(), camera.adjustZButton5().isChecked(),
-                       editSessionFor(edited));
+                       mergeKey);
+}
+
+void AppDelegate::cameraFieldEdited(const QLineEdit& edited) {
+    if (markCameraFields())
+        applyCamera(editSessionFor(edited));
 }
 
 void AppDelegate::lightFieldEdited(const QLineEdit& edited) {
     LightPopover& light = *popOver4_;
     const bool valid = checkAll({{&light.xField4(), validatePosNegFloat},
                                  {&light.yField4(), validatePosNegFloat},
-                                 {&light.zField4(), validatePosNegFloat}});
+                                 {&light.zField4(), validatePosNegFloat}},
+                                true);
     if (!valid)
         return;
     editor_->setLightPosition(light.xField4().text().toStdString(),
@@ -163,19 +166,13 @@ void AppDelegate::lightFieldEdited(const QLineEdit& edited) {
                               light.zField4().text().toStdString(), editSessionFor(edited));
 }
 
-// Either switch applies the whole camera, when every field holds a usable value.
+// Either switch applies the whole camera when every field holds a usable value; the
+// fields' colours already say which does not.
 void AppDelegate::applyCameraSwitches() {
-    CameraPopover& camera = *popOver5_;
-    if (firstFails({{&camera.xfovField5(), validateFov},
-                    {&camera.yfovField5(), validateFov},
-                    {&camera.xField5(), validatePosNegFloat},
-                    {&camera.yField5(), validatePosNegFloat},
-                    {&camera.zField5(), validatePosOnlyFloat}}))
+    if (!checkAll(cameraChecks(*popOver5_), false))
         return;
     lastEditedField_ = nullptr;
-    editor_->setCamera(number(camera.xfovField5()), number(camera.yfovField5()),
-                       number(camera.xField5()), number(camera.yField5()), number(camera.zField5()),
-                       camera.orthoButton5().isChecked(), camera.adjustZButton5().isChecked());
+    applyCamera(0);
 }
 
 void AppDelegate::setCameraDefault() {

@@ -68,8 +68,6 @@ void AppDelegate::buildPlanetPanel() {
     });
     connect(&sceneview(), &sceneView::planetHit, this, &AppDelegate::hitText1Selected);
     connect(&sceneview(), &sceneView::planetMoved, this, &AppDelegate::updateTextPostion);
-    connect(this, &AppDelegate::planetChosen, this,
-            [this](const QString& tsecs) { hitText1Selected(tsecs); });
 
     QLineEdit& name = accessoryView3_->nameField3();
     connect(&name, &QLineEdit::textChanged, this, [this](const QString& typed) {

@@ -50,7 +50,7 @@ void AppDelegate::openSearchWindow() {
                        *mainWindow_);
         connect(searchWindow_, &FramedWindow::frameSettled, this, &AppDelegate::searchSaveFrame);
         connect(searchWindow_, &FramedWindow::closing, this, &AppDelegate::searchWillClose);
-        connect(searchWindow_, &searchWindow::planetChosen, this, &AppDelegate::planetChosen);
+        connect(searchWindow_, &searchWindow::planetChosen, this, &AppDelegate::hitText1Selected);
         // The list follows the planets while the window is open.
         const auto refresh = [this] {
             if (searchWindow_->isVisible())

@@ -65,7 +65,6 @@ void AppDelegate::buildTitleBar() {
         makeTitleButton("maxButton0", "zoom-active-color", "accessibleZoomButton", &content);
     fullButton0_ =
         makeTitleButton("fullButton0", "fullImage", "accessibleFullScreenButton", &content);
-    fullButton0_->setVisible(state_.canEnterFull);
     connect(closeButton0_, &QAbstractButton::clicked, this, &AppDelegate::closeWindowClicked);
     connect(minButton0_, &QAbstractButton::clicked, this, &AppDelegate::minimizeWindowClicked);
     connect(maxButton0_, &QAbstractButton::clicked, this, &AppDelegate::maximizeWindowClicked);
@@ -75,12 +74,14 @@ void AppDelegate::buildTitleBar() {
         connect(button, &ImageButton::pointerEntered, this, &AppDelegate::mouseEntered);
         connect(button, &ImageButton::pointerLeft, this, &AppDelegate::mouseExited);
     }
-    for (QWidget* control :
-         {static_cast<QWidget*>(titleLabel0_), static_cast<QWidget*>(closeButton0_),
-          static_cast<QWidget*>(minButton0_), static_cast<QWidget*>(maxButton0_),
-          static_cast<QWidget*>(fullButton0_)})
+    for (QWidget* control : titleBarControls())
         control->show();
+    fullButton0_->setVisible(state_.canEnterFull);
     windowWillResize();
+}
+
+QList<QWidget*> AppDelegate::titleBarControls() const {
+    return {titleLabel0_, closeButton0_, minButton0_, maxButton0_, fullButton0_};
 }
 
 // Hovering any of the three window buttons lights all three.
@@ -105,10 +106,9 @@ void AppDelegate::windowWillResize() {
     minButton0_->move(28, kButtonTop);
     maxButton0_->move(48, kButtonTop);
     fullButton0_->move(width - 20, kButtonTop);
-    for (QWidget* button :
-         {static_cast<QWidget*>(closeButton0_), static_cast<QWidget*>(minButton0_),
-          static_cast<QWidget*>(maxButton0_), static_cast<QWidget*>(fullButton0_)})
-        button->raise();
+    // The buttons lie over the title, which spans the whole width.
+    for (QWidget* control : titleBarControls())
+        control->raise();
     mainWindow_->content().update();
 }
 
@@ -194,10 +194,7 @@ void AppDelegate::fullWindowClicked() {
 
 void AppDelegate::windowWillEnterFullscreen() {
     state_.enteringFull = true;
-    for (QWidget* control :
-         {static_cast<QWidget*>(titleLabel0_), static_cast<QWidget*>(closeButton0_),
-          static_cast<QWidget*>(minButton0_), static_cast<QWidget*>(maxButton0_),
-          static_cast<QWidget*>(fullButton0_)})
+    for (QWidget* control : titleBarControls())
         control->hide();
     mainWindow_->content().setTitleStripShown(false);
     menus_.windowFullScreen->setChecked(true);
@@ -212,9 +209,7 @@ void AppDelegate::windowDidEnterFullscreen() {
 void AppDelegate::windowDidExitFullscreen() {
     state_.enteringFull = false;
     mainWindow_->content().setTitleStripShown(true);
-    for (QWidget* control :
-         {static_cast<QWidget*>(titleLabel0_), static_cast<QWidget*>(closeButton0_),
-          static_cast<QWidget*>(minButton0_), static_cast<QWidget*>(maxButton0_)})
+    for (QWidget* control : titleBarControls())
         control->show();
     fullButton0_->setVisible(state_.canEnterFull);
     menus_.windowFullScreen->setChecked(false);

@@ -6,6 +6,7 @@
 #include "bench/table/FreshWindow.h"
 #include "core/export/ExportChoices.h"
 #include "core/export/ExportPicture.h"
+#include "core/settings/SettingsReaders.h"
 #include "customWin/headerView.h"
 #include "customWin/mainView.h"
 #include "customWin/mainWindow.h"

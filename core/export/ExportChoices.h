@@ -2,7 +2,6 @@
 
 #include "core/export/ExportFormat.h"
 #include "core/model/PlanetList.h"
-#include "core/settings/SettingsReaders.h"
 
 #include <string_view>
 #include <vector>

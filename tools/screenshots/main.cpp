@@ -12,6 +12,7 @@
 #include "resources/translations/Translations.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QPushButton>
 #include <QDir>
@@ -140,12 +141,18 @@ int main(int argc, char** argv) {
     saveWindow(window, out.filePath(QStringLiteral("export-question.png")));
     QComboBox* formats = window.findChild<QComboBox*>(QStringLiteral("exportPopup1"));
     formats->setCurrentIndex(2);
+    window.findChild<QCheckBox*>(QStringLiteral("includeButton1"))->setChecked(true);
     QTest::mouseClick(window.findChild<QPushButton*>(QStringLiteral("sheetButton1000")),
                       Qt::LeftButton);
     QTest::qWait(900);
     saveWindow(window, out.filePath(QStringLiteral("export-panel.png")), 200);
-    if (QWidget* panel = QApplication::activeModalWidget())
-        panel->close();
+    // The picture itself, written by the window as a person's export writes it.
+    if (auto* panel = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+        panel->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))
+            ->setText(out.filePath(QStringLiteral("exported.jpg")));
+        panel->accept();
+        settle();
+    }
     auto* progress = new orrery::window::ProgressSheet(
         orrery::window::text("exportImageSavingNewImage"), window);
     progress->begin();
