@@ -8,8 +8,10 @@
 #include "customWin/Strings.h"
 #include "customWin/gradationWindow.h"
 #include "customWin/headerView.h"
+#include "customWin/introduction/introductionWindow.h"
 #include "customWin/mainView.h"
 #include "customWin/mainWindow.h"
+#include "customWin/preferences/accessoryView1p.h"
 #include "customWin/sceneView.h"
 #include "customWin/screenView.h"
 #include "customWin/searchWindow.h"
@@ -59,6 +61,9 @@ AppDelegate::~AppDelegate() {
     // The creation sheet's contents live outside any window between openings.
     if (accessoryView3_ != nullptr && accessoryView3_->parent() == nullptr)
         delete accessoryView3_;
+    if (accessoryView1p_ != nullptr && accessoryView1p_->parent() == nullptr)
+        delete accessoryView1p_;
+    delete introductionWindow_;
     delete gradationWindow_;
     delete searchWindow_;
     delete mainWindow_;
@@ -75,6 +80,8 @@ screenView& AppDelegate::screenview() {
 void AppDelegate::applicationWillFinishLaunching() {
     screenOptions();
     mainWindow_->show();
+    if (!generalSwitch(settings_.checkboxArray, 2))
+        openIntroduction();
     makeNSControls();
     state_.appVersion = ORRERY_VERSION;
     registerWindowObservers();

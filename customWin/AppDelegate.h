@@ -26,6 +26,8 @@ class QPrinter;
 namespace orrery::window {
 
 class CameraPopover;
+class ContentSheet;
+class FolderChoice;
 class ImageButton;
 class LightPopover;
 class PlanetAddSheet;
@@ -33,7 +35,9 @@ class PlanetPanel;
 class PlanetTable;
 class PlanetTableModel;
 class TitleLabel;
+class accessoryView1p;
 class accessoryView3;
+class introductionWindow;
 class gradationWindow;
 class mainView;
 class mainWindow;
@@ -133,6 +137,17 @@ public:
     void setLightDefault();
     void colorChanged4Clicked(const Color& color);
 
+    // Preferences (AppDelegatePreferences.cpp).
+    void openPreferences();
+    void save1pClicked();
+    void close1pClicked();
+
+    // The introduction tour (AppDelegateTour.cpp).
+    void openIntroduction();
+    void forward7Clicked();
+    void back7Clicked();
+    void dontshow7Clicked(bool on);
+
 private:
     // Start-up steps.
     void screenOptions();
@@ -184,6 +199,15 @@ private:
     void applyCamera(int mergeKey);
     int editSessionFor(const QLineEdit& field);
 
+    // Preferences.
+    accessoryView1p& preferencesView();
+    void systempopSelected(FolderChoice& folder, const char* titleKey);
+    void endPreferences();
+
+    // The tour.
+    introductionWindow& tourWindow();
+    void showTourPage(int page);
+
     // Menus.
     void connectMenuActions();
     void askToOpenPage(const QString& question, const QUrl& page);
@@ -228,6 +252,9 @@ private:
     PlanetTable* tableView1_ = nullptr;
     QPointer<accessoryView3> accessoryView3_;
     QPointer<PlanetAddSheet> planetAddSheet_;
+    accessoryView1p* accessoryView1p_ = nullptr;
+    QPointer<ContentSheet> preferencesSheet_;
+    introductionWindow* introductionWindow_ = nullptr;
     CameraPopover* popOver5_ = nullptr;
     LightPopover* popOver4_ = nullptr;
     const QLineEdit* lastEditedField_ = nullptr;

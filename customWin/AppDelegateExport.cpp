@@ -18,7 +18,6 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
 #include <QSlider>
 #include <QTimer>
 
@@ -64,9 +63,7 @@ void AppDelegate::FileExport2(bool withBackground) {
     accessoryView2* compression = nullptr;
     if (info.usesCompression) {
         compression = new accessoryView2();
-        const int percent = compressionPercent(settings_.preferenceArray);
-        compression->compressSlider2().setValue(percent);
-        compression->compressLabel2().setText(QString::number(percent) + QLatin1Char('%'));
+        compression->compressSlider2().setValue(compressionPercent(settings_.preferenceArray));
     }
     const QString folder =
         QString::fromStdString(exportFolder(settings_.preferenceArray, documentsFolder()).string());

@@ -77,8 +77,7 @@ void AppDelegate::connectMenuActions() {
     connect(m.fileExport, &QAction::triggered, this, &AppDelegate::FileExport1);
     connect(m.filePrint, &QAction::triggered, this, &AppDelegate::printPlain);
     connect(m.filePrintsetup, &QAction::triggered, this, &AppDelegate::pageSetup);
-    // Preferences are offered once their sheet is in place.
-    m.appPreferences->setEnabled(false);
+    connect(m.appPreferences, &QAction::triggered, this, &AppDelegate::openPreferences);
 }
 
 void AppDelegate::saveMenuStatus() {

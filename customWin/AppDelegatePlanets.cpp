@@ -28,7 +28,6 @@ namespace orrery::window {
 namespace {
 
 constexpr int kStatusMs = 3000;
-constexpr int kSheetContentsMs = 500;
 
 QLineEdit* focusedField() {
     return qobject_cast<QLineEdit*>(QApplication::focusWidget());
@@ -168,8 +167,7 @@ void AppDelegate::closeCreationSheet() {
     PlanetAddSheet* sheet = planetAddSheet_;
     planetAddSheet_ = nullptr;
     disconnect(sheet, &QDialog::rejected, this, &AppDelegate::cancel3Clicked);
-    QTimer::singleShot(kSheetContentsMs, sheet, [sheet] { sheet->releaseContents(); });
-    sheet->hide();
+    sheet->finish();
     state_.isCreatePlanetOpen = false;
     loadMenuStatus();
     // What the sheet changed counts over what the menus were before it.

@@ -40,7 +40,7 @@ void AppDelegate::printPlain() {
         auto* alert = new QMessageBox(QMessageBox::Warning, QString(),
                                       textWith("printErrorNSPrintOperation", appName_),
                                       QMessageBox::NoButton, mainWindow_);
-        alert->addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+        alert->addButton(text("alertOK"), QMessageBox::AcceptRole);
         alert->setAttribute(Qt::WA_DeleteOnClose);
         alert->open();
         return;

@@ -1,6 +1,7 @@
 #include "customWin/ExportAccessories.h"
 
 #include "core/export/ExportFormat.h"
+#include "customWin/PercentSlider.h"
 #include "customWin/Strings.h"
 
 #include <QCheckBox>
@@ -8,7 +9,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QSlider>
 
 namespace orrery::window {
 
@@ -33,22 +33,20 @@ accessoryView1::accessoryView1(QWidget* parent)
 }
 
 accessoryView2::accessoryView2(QWidget* parent)
-    : QWidget(parent), slider_(new QSlider(Qt::Horizontal, this)), percent_(new QLabel(this)) {
+    : QWidget(parent), compression_(new PercentSlider(QStringLiteral("compressSlider2"),
+                                                      QStringLiteral("compressLabel2"), this)) {
     setObjectName(QStringLiteral("accessoryView2"));
-    slider_->setObjectName(QStringLiteral("compressSlider2"));
-    slider_->setRange(0, 100);
-    percent_->setObjectName(QStringLiteral("compressLabel2"));
-    percent_->setMinimumWidth(44);
     auto* label = new QLabel(text("exportCompressionLabel"), this);
-    label->setBuddy(slider_);
-    slider_->setAccessibleName(label->text());
+    label->setBuddy(&compressSlider2());
+    compressSlider2().setAccessibleName(label->text());
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(8, 4, 8, 4);
     layout->addWidget(label);
-    layout->addWidget(slider_, 1);
-    layout->addWidget(percent_);
-    connect(slider_, &QSlider::valueChanged, percent_,
-            [this](int value) { percent_->setText(QString::number(value) + QLatin1Char('%')); });
+    layout->addWidget(compression_, 1);
+}
+
+QSlider& accessoryView2::compressSlider2() {
+    return compression_->slider();
 }
 
 } // namespace orrery::window

@@ -4,10 +4,11 @@
 
 class QCheckBox;
 class QComboBox;
-class QLabel;
 class QSlider;
 
 namespace orrery::window {
+
+class PercentSlider;
 
 // Under the export question: the format pop-up and whether the background colour goes
 // under the picture.
@@ -28,12 +29,10 @@ class accessoryView2 : public QWidget {
     Q_OBJECT
 public:
     explicit accessoryView2(QWidget* parent = nullptr);
-    QSlider& compressSlider2() { return *slider_; }
-    QLabel& compressLabel2() { return *percent_; }
+    QSlider& compressSlider2();
 
 private:
-    QSlider* slider_;
-    QLabel* percent_;
+    PercentSlider* compression_;
 };
 
 } // namespace orrery::window

@@ -91,4 +91,14 @@ void savePicturePanel(QWidget& window, const QString& folder, const PanelTexts& 
     finishWith(panel, std::move(chosen));
 }
 
+void chooseFolderPanel(QWidget& window, const QString& folder, const QString& title,
+                       std::function<void(const QString&)> chosen) {
+    QFileDialog* panel =
+        makePanel(window, folder, PanelTexts{title, {}, {}}, QFileDialog::AcceptOpen);
+    panel->setObjectName(QStringLiteral("folderPanel"));
+    panel->setFileMode(QFileDialog::Directory);
+    panel->setOption(QFileDialog::ShowDirsOnly);
+    finishWith(panel, std::move(chosen));
+}
+
 } // namespace orrery::window

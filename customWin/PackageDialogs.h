@@ -6,8 +6,9 @@
 
 class QWidget;
 
-// The open and save panels for project packages. A package is a folder named *.kvx, which
-// a file dialog would walk into like any folder: here entering one chooses it.
+// The open and save panels for project packages, pictures and folders. A package is a
+// folder named *.kvx, which a file dialog would walk into like any folder: here entering
+// one chooses it.
 namespace orrery::window {
 
 struct PanelTexts {
@@ -27,5 +28,9 @@ void savePackagePanel(QWidget& window, const QString& folder, const PanelTexts& 
 void savePicturePanel(QWidget& window, const QString& folder, const PanelTexts& texts,
                       const QString& fileType, QWidget* accessory,
                       std::function<void(const QString&)> chosen);
+
+// A panel for choosing one folder (new folders can be made in it).
+void chooseFolderPanel(QWidget& window, const QString& folder, const QString& title,
+                       std::function<void(const QString&)> chosen);
 
 } // namespace orrery::window

@@ -1,13 +1,11 @@
 #include "customWin/PlanetCreationSheet.h"
 
-#include "customWin/Sheet.h"
 #include "customWin/Strings.h"
 
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace orrery::window {
 
@@ -41,28 +39,6 @@ accessoryView3::accessoryView3()
     layout->addWidget(cancel_, 3, 2);
     layout->addWidget(create_, 3, 3);
     layout->setColumnStretch(1, 1);
-}
-
-PlanetAddSheet::PlanetAddSheet(accessoryView3& contents, QWidget& window)
-    : QDialog(&window), planetAddView_(new QWidget(this)), contents_(contents) {
-    setObjectName(QStringLiteral("planetAddSheet"));
-    planetAddView_->setObjectName(QStringLiteral("planetAddView"));
-    makeSheet(*this);
-    setFixedSize(kWidth, kHeight);
-    auto* layout = new QVBoxLayout(planetAddView_);
-    layout->setContentsMargins(0, 0, 0, 0);
-    contents.setParent(planetAddView_);
-    layout->addWidget(&contents);
-    contents.show();
-    planetAddView_->setGeometry(0, 0, kWidth, kHeight);
-}
-
-void PlanetAddSheet::releaseContents() {
-    contents_.hide();
-    contents_.setParent(nullptr);
-    delete planetAddView_;
-    planetAddView_ = nullptr;
-    deleteLater();
 }
 
 } // namespace orrery::window

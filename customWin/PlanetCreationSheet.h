@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QDialog>
+#include "customWin/Sheet.h"
 
-#include <functional>
+#include <QWidget>
 
 class QLabel;
 class QLineEdit;
@@ -31,20 +31,15 @@ private:
 };
 
 // The sheet itself, 340 x 168, made anew for every opening.
-class PlanetAddSheet : public QDialog {
+class PlanetAddSheet : public ContentSheet {
     Q_OBJECT
 public:
     static constexpr int kWidth = 340;
     static constexpr int kHeight = 168;
 
-    PlanetAddSheet(accessoryView3& contents, QWidget& window);
-    // Takes the contents back out of the sheet (half a second after it closed, so that the
-    // sheet's closing is drawn whole), and lets the sheet go.
-    void releaseContents();
-
-private:
-    QWidget* planetAddView_;
-    accessoryView3& contents_;
+    PlanetAddSheet(accessoryView3& contents, QWidget& window)
+        : ContentSheet(contents, window, {kWidth, kHeight}, QStringLiteral("planetAddSheet"),
+                       QStringLiteral("planetAddView")) {}
 };
 
 } // namespace orrery::window

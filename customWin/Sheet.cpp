@@ -6,6 +6,8 @@
 #include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTimer>
+#include <QVBoxLayout>
 
 namespace orrery::window {
 
@@ -74,6 +76,35 @@ void askOnSheet(QWidget& window, const QString& message, const QString& informat
         });
     box->open();
     placeAsSheet(*box, window);
+}
+
+ContentSheet::ContentSheet(QWidget& contents, QWidget& window, QSize size, const QString& sheetName,
+                           const QString& viewName)
+    : QDialog(&window), view_(new QWidget(this)), contents_(contents) {
+    setObjectName(sheetName);
+    view_->setObjectName(viewName);
+    makeSheet(*this);
+    setFixedSize(size);
+    auto* layout = new QVBoxLayout(view_);
+    layout->setContentsMargins(0, 0, 0, 0);
+    contents.setParent(view_);
+    layout->addWidget(&contents);
+    contents.show();
+    view_->setGeometry(QRect(QPoint(0, 0), size));
+}
+
+void ContentSheet::finish() {
+    constexpr int kContentsKeptMs = 500;
+    hide();
+    QTimer::singleShot(kContentsKeptMs, this, &ContentSheet::releaseContents);
+}
+
+void ContentSheet::releaseContents() {
+    contents_.hide();
+    contents_.setParent(nullptr);
+    delete view_;
+    view_ = nullptr;
+    deleteLater();
 }
 
 } // namespace orrery::window

@@ -1,11 +1,11 @@
 #pragma once
 
+#include <QDialog>
 #include <QString>
 #include <QStringList>
 
 #include <functional>
 
-class QDialog;
 class QWidget;
 
 // Questions and panels drop from the top of the main window as sheets: window-modal,
@@ -30,5 +30,23 @@ void placeAsSheet(QDialog& sheet, const QWidget& window);
 void askOnSheet(QWidget& window, const QString& message, const QString& informative,
                 const QStringList& buttons, std::function<void(int)> answered,
                 QWidget* accessory = nullptr);
+
+// A sheet that lends its place to contents made once and kept between openings: made anew
+// for every opening, at a fixed size, with the contents in a view of its own.
+class ContentSheet : public QDialog {
+    Q_OBJECT
+public:
+    ContentSheet(QWidget& contents, QWidget& window, QSize size, const QString& sheetName,
+                 const QString& viewName);
+    // Hides the sheet; half a second later (so that its closing is drawn whole) the contents
+    // are taken back out and the sheet goes.
+    void finish();
+
+private:
+    void releaseContents();
+
+    QWidget* view_;
+    QWidget& contents_;
+};
 
 } // namespace orrery::window

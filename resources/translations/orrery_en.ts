@@ -890,6 +890,16 @@
         <extracomment>Last button of the unsaved-changes question.</extracomment>
         <translation>Cancel</translation>
     </message>
+    <message id="compressionPercent">
+        <source>%1%</source>
+        <extracomment>Beside a compression slider: its value in per cent. %1 is the number (0 to 100).</extracomment>
+        <translation>%1%</translation>
+    </message>
+    <message id="alertOK">
+        <source>OK</source>
+        <extracomment>The one button of an alert that only informs.</extracomment>
+        <translation>OK</translation>
+    </message>
     <message id="searchClear">
         <source>Clear</source>
         <extracomment>The button that empties the search field.</extracomment>

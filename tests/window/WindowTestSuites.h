@@ -16,5 +16,8 @@ std::unique_ptr<QObject> makePlanetsTest();
 std::unique_ptr<QObject> makeCameraLightTest();
 std::unique_ptr<QObject> makeDocumentsTest();
 std::unique_ptr<QObject> makeExportTest();
+std::unique_ptr<QObject> makeGermanTest();
+std::unique_ptr<QObject> makePreferencesTest();
+std::unique_ptr<QObject> makeTourTest();
 
 } // namespace orrery::window::testing

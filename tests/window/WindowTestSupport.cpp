@@ -26,8 +26,11 @@ FreshStart::~FreshStart() {
     qputenv("HOME", savedHome_);
 }
 
-void FreshStart::start() {
+void FreshStart::start(Tour tour) {
     delegate_->applicationWillFinishLaunching();
+    if (QWidget* introduction = visibleTopLevel("introductionWindow");
+        introduction != nullptr && tour == Tour::close)
+        introduction->close();
     mainWindow& window = delegate_->window();
     // Under Xvfb there is no window manager to give the window the keyboard.
     window.activateWindow();
@@ -38,10 +41,10 @@ QString FreshStart::appFolder() const {
     return dataHome_.path() + QLatin1Char('/') + QCoreApplication::applicationName();
 }
 
-void FreshStart::restart() {
+void FreshStart::restart(Tour tour) {
     delegate_.reset();
     delegate_ = std::make_unique<AppDelegate>();
-    start();
+    start(tour);
 }
 
 void FreshWindowSuite::init() {

@@ -19,12 +19,14 @@ public:
     ~FreshStart();
 
     AppDelegate& delegate() { return *delegate_; }
-    // Runs the start-up and waits until the main window is on screen.
-    void start();
+    // Runs the start-up and waits until the main window is on screen. A first start shows
+    // the introduction tour; it is closed unless the test wants it.
+    enum class Tour { close, keep };
+    void start(Tour tour = Tour::close);
     // The settings folder of this program ($XDG_DATA_HOME/<executable name>).
     QString appFolder() const;
     // Starts again in the same settings folder, as the next launch would.
-    void restart();
+    void restart(Tour tour = Tour::close);
 
 private:
     QByteArray savedHome_;

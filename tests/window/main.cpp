@@ -14,10 +14,17 @@
 int main(int argc, char** argv) {
     using namespace orrery::window::testing;
     const std::map<std::string, std::function<std::unique_ptr<QObject>()>> suites{
-        {"Startup", makeStartupTest},     {"Chrome", makeChromeTest},
-        {"Menu", makeMenuTest},           {"Scene", makeSceneTest},
-        {"Planets", makePlanetsTest},     {"CameraLight", makeCameraLightTest},
-        {"Documents", makeDocumentsTest}, {"Export", makeExportTest}};
+        {"Startup", makeStartupTest},
+        {"Chrome", makeChromeTest},
+        {"Menu", makeMenuTest},
+        {"Scene", makeSceneTest},
+        {"Planets", makePlanetsTest},
+        {"CameraLight", makeCameraLightTest},
+        {"Documents", makeDocumentsTest},
+        {"Export", makeExportTest},
+        {"Preferences", makePreferencesTest},
+        {"Tour", makeTourTest},
+        {"German", makeGermanTest}};
     const auto suite = argc > 1 ? suites.find(argv[1]) : suites.end();
     if (suite == suites.end()) {
         std::fprintf(stderr, "usage: %s SUITE [Qt Test options]\n", argv[0]);
@@ -25,7 +32,10 @@ int main(int argc, char** argv) {
     }
     orrery::window::useSceneSurfaceFormat();
     QApplication application(argc, argv);
-    orrery::translations::install(application, QLocale(QLocale::English));
+    // The German suite reads the window in the desktop's language, which ctest sets to
+    // German; the others check English texts.
+    orrery::translations::install(
+        application, suite->first == "German" ? QLocale::system() : QLocale(QLocale::English));
     const std::unique_ptr<QObject> tests = suite->second();
     // Qt Test reads its own options from what follows the suite's name.
     argv[1] = argv[0];

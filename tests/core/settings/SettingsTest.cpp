@@ -1,4 +1,5 @@
 #include "core/settings/Settings.h"
+#include "core/settings/PreferencesValues.h"
 #include "core/settings/SettingsDatabase.h"
 #include "core/support/Log.h"
 
@@ -166,6 +167,38 @@ TEST_F(SettingsFiles, EditsInMemoryAndReload) {
     EXPECT_EQ(settings.preferenceArray.size(), 99u);
     EXPECT_EQ(settings.preferenceArray[0], "0");
     EXPECT_EQ(settings.checkboxArray[11], "0");
+}
+
+// What the Preferences sheet saves is what the next start shows; a stored folder that has
+// gone since shows as the documents folder.
+TEST_F(SettingsFiles, PreferencesSavedAreShownAtTheNextStart) {
+    Settings settings = startUp();
+    const fs::path documents = folder_ / "Documents";
+    const fs::path pictures = folder_ / "Pictures";
+    fs::create_directories(pictures);
+    PreferencesValues values = shownPreferences(settings, documents);
+    EXPECT_EQ(values.openFolder, documents);
+    EXPECT_EQ(values.compression, 85);
+    EXPECT_EQ(settings.preferenceArray[0], documents.string());
+
+    values.openFolder = folder_ / "Gone";
+    values.exportFolder = pictures;
+    values.formatRow = 5;
+    values.compression = 40;
+    values.general[1] = true;
+    values.general[11] = true;
+    savePreferences(settings, values);
+    EXPECT_EQ(settings.preferenceArray.size(), 2 * 99u);
+    EXPECT_EQ(settings.checkboxArray[1], "1");
+
+    Settings next = startUp();
+    const PreferencesValues shown = shownPreferences(next, documents);
+    EXPECT_EQ(shown.openFolder, documents);
+    EXPECT_EQ(shown.exportFolder, pictures);
+    EXPECT_EQ(shown.formatRow, 5);
+    EXPECT_EQ(shown.compression, 40);
+    EXPECT_EQ(shown.general, values.general);
+    EXPECT_EQ(next.checkboxArray[12], "0"); // the spare rows are left alone
 }
 
 } // namespace

@@ -1,0 +1,92 @@
+#include "customWin/AppDelegate.h"
+
+#include "core/app/TourPages.h"
+#include "customWin/Strings.h"
+#include "customWin/introduction/NumberBadge.h"
+#include "customWin/introduction/introductionWindow.h"
+#include "customWin/mainWindow.h"
+#include "customWin/preferences/accessoryView1p.h"
+
+#include <QCheckBox>
+#include <QPushButton>
+
+namespace orrery::window {
+namespace {
+
+constexpr qreal kBadgeRadius = 4.0;
+
+QPixmap tourPicture(const TourPage& page) {
+    return QPixmap(QStringLiteral(":/tour/%1").arg(QLatin1String(page.picture)));
+}
+
+QImage badge(int page, const QColor& colour, qreal devicePixelRatio) {
+    return roundCorners7(stringImage7(QString::number(page), colour, kBadgeSize, devicePixelRatio),
+                         kBadgeRadius);
+}
+
+} // namespace
+
+// Made when first shown. It opens on the first page with the back button off and an
+// orange badge; turning back to that page later shows the red one.
+introductionWindow& AppDelegate::tourWindow() {
+    if (introductionWindow_ != nullptr)
+        return *introductionWindow_;
+    introductionWindow_ = new introductionWindow(mainWindow_);
+    introductionWindow& tour = *introductionWindow_;
+    const TourPage& first = tourPage(1);
+    tour.showPage(tourPicture(first), textWith(first.textKey, appName_),
+                  badge(1, kBadgeOrange, tour.devicePixelRatioF()), QStringLiteral("1"));
+    tour.backButton7().setEnabled(false);
+    connect(&tour.forwardButton7(), &QPushButton::clicked, this, &AppDelegate::forward7Clicked);
+    connect(&tour.backButton7(), &QPushButton::clicked, this, &AppDelegate::back7Clicked);
+    connect(&tour.noshowButton7(), &QCheckBox::clicked, this, &AppDelegate::dontshow7Clicked);
+    connect(&tour, &introductionWindow::closed, this,
+            [this] { state_.introductionWindowOpen = false; });
+    return tour;
+}
+
+void AppDelegate::openIntroduction() {
+    introductionWindow& tour = tourWindow();
+    // Over the middle of the main window, whose child it is.
+    const QRect main = mainWindow_->frameGeometry();
+    tour.move(main.center() - QPoint(tour.width() / 2, tour.height() / 2));
+    tour.show();
+    tour.raise();
+    tour.activateWindow();
+    state_.introductionWindowOpen = true;
+}
+
+void AppDelegate::showTourPage(int page) {
+    state_.currentPage = page;
+    const TourPage& shown = tourPage(page);
+    const QString description = page == 1 ? textWith(shown.textKey, appName_) : text(shown.textKey);
+    introductionWindow& tour = tourWindow();
+    tour.showPage(tourPicture(shown), description,
+                  badge(page, shown.redBadge ? kBadgeRed : kBadgeOrange, tour.devicePixelRatioF()),
+                  QString::number(page));
+}
+
+void AppDelegate::forward7Clicked() {
+    if (const std::optional<TourTurn> turn = tourForward(state_.currentPage)) {
+        showTourPage(turn->page);
+        tourWindow().setButtons(turn->buttons);
+    }
+}
+
+void AppDelegate::back7Clicked() {
+    if (const std::optional<TourTurn> turn = tourBack(state_.currentPage)) {
+        showTourPage(turn->page);
+        tourWindow().setButtons(turn->buttons);
+    }
+}
+
+// Once the box has been clicked at all, the tour stays off at later starts, whichever way
+// the box now stands, until the Preferences say otherwise.
+void AppDelegate::dontshow7Clicked(bool on) {
+    constexpr int kTourSwitch = 2;
+    if (accessoryView1p_ != nullptr)
+        accessoryView1p_->setGeneralSwitch(kTourSwitch, on);
+    settings_.saveData2("1", "Value02");
+}
+
+} // namespace orrery::window
