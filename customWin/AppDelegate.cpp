@@ -80,8 +80,10 @@ screenView& AppDelegate::screenview() {
 void AppDelegate::applicationWillFinishLaunching() {
     screenOptions();
     mainWindow_->show();
+    // The tour follows the window's first frame, so that the window does not wait for it.
     if (!generalSwitch(settings_.checkboxArray, 2))
-        openIntroduction();
+        connect(&sceneview(), &sceneView::framePainted, this, &AppDelegate::openIntroduction,
+                Qt::SingleShotConnection);
     makeNSControls();
     state_.appVersion = ORRERY_VERSION;
     registerWindowObservers();

@@ -9,6 +9,7 @@
 #include <QPainter>
 
 #include <cmath>
+#include <cstring>
 
 namespace orrery::window {
 namespace {
@@ -61,8 +62,7 @@ bool SceneSurface::ensureRenderer() {
         logMessage("The scene cannot be drawn: " + error);
         return false;
     }
-    // The planets are laid over the backdrop drawn just before them.
-    renderer_->setBlendOverTarget(true);
+    backdropGiven_ = QSize();
     return true;
 }
 
@@ -71,17 +71,40 @@ void SceneSurface::resizeGL(int, int) {
     scene_.setViewSize(width(), height());
 }
 
-void SceneSurface::paintGL() {
+void SceneSurface::backdropChanged() {
+    backdropGiven_ = QSize();
+    update();
+}
+
+void SceneSurface::giveBackdrop(QSize pixels) {
+    if (backdropGiven_ == pixels)
+        return;
+    QImage painted(pixels, QImage::Format_ARGB32_Premultiplied);
+    painted.setDevicePixelRatio(devicePixelRatio());
     {
-        QPainter painter(this);
+        QPainter painter(&painted);
         backdrop_.paintBackdrop(painter, QRect(QPoint(0, 0), size()));
     }
+    const QImage straight = painted.convertToFormat(QImage::Format_RGBA8888);
+    Image image(straight.width(), straight.height());
+    for (int row = 0; row < image.height; ++row)
+        std::memcpy(image.pixel(0, row), straight.constScanLine(row), image.stride());
+    renderer_->setBackdrop(image);
+    backdropGiven_ = pixels;
+}
+
+void SceneSurface::paintGL() {
     if (scene_.hasPlanets() && ensureRenderer()) {
         const qreal scale = devicePixelRatio();
+        const QSize pixels(devicePixels(width(), scale), devicePixels(height(), scale));
+        giveBackdrop(pixels);
         std::string error;
-        if (!renderer_->render(scene_, defaultFramebufferObject(), devicePixels(width(), scale),
-                               devicePixels(height(), scale), &error))
+        if (!renderer_->render(scene_, defaultFramebufferObject(), pixels.width(), pixels.height(),
+                               &error))
             logMessage("Drawing the scene failed: " + error);
+    } else {
+        QPainter painter(this);
+        backdrop_.paintBackdrop(painter, QRect(QPoint(0, 0), size()));
     }
     emit framePainted();
 }

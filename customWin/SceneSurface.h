@@ -20,8 +20,9 @@ class screenView;
 
 // The window the scene is drawn in: a native OpenGL window of its own inside the main
 // window, so that a frame costs only the scene and not a composition of the whole main
-// window. It draws the backdrop first and the planets over it, and redraws only when the
-// scene or the backdrop changed.
+// window. The renderer lays the planets over the backdrop as it finishes the picture (the
+// backdrop alone is painted when there are no planets), and the window redraws only when
+// the scene or the backdrop changed.
 class SceneSurface : public QOpenGLWindow {
     Q_OBJECT
 public:
@@ -31,6 +32,8 @@ public:
     SceneView& scene() { return scene_; }
     std::optional<Image> picture(std::string* error);
     const QString& rendererProblem() const { return rendererProblem_; }
+    // The backdrop looks different: it is handed to the renderer again and drawn.
+    void backdropChanged();
 
 signals:
     void planetHit(const QString& tsecs);
@@ -49,12 +52,14 @@ private:
     ViewPoint viewPoint(const QPointF& position) const;
     bool ensureRenderer();
     void releaseRenderer();
+    void giveBackdrop(QSize pixels);
 
     const screenView& backdrop_;
     SceneView scene_;
     imageio::SurfaceLibrary surfaces_;
     std::unique_ptr<Renderer> renderer_;
     QString rendererProblem_;
+    QSize backdropGiven_; // the size of the backdrop the renderer has; empty: none yet
 };
 
 } // namespace orrery::window

@@ -14,7 +14,7 @@ sceneView::sceneView(const screenView& backdrop, QWidget* parent)
     connect(surface_, &SceneSurface::planetHit, this, &sceneView::planetHit);
     connect(surface_, &SceneSurface::planetMoved, this, &sceneView::planetMoved);
     connect(surface_, &SceneSurface::framePainted, this, &sceneView::framePainted);
-    connect(&backdrop, &screenView::changed, surface_, [this] { surface_->update(); });
+    connect(&backdrop, &screenView::changed, surface_, &SceneSurface::backdropChanged);
 }
 
 SceneView& sceneView::scene() {

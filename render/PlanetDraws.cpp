@@ -17,14 +17,6 @@ std::pair<double, double> extent(double along, double depth, double radius) {
     return {(along * depth - s) / a, (along * depth + s) / a};
 }
 
-bool onScreen(const PlanetInstance& planet, const ScreenFrame& frame) {
-    const auto box = silhouetteBox(planet, frame);
-    if (!box) // the sphere reaches the plane of the eye: it shows unless it lies behind
-        return -planet.center[2] > -planet.radius;
-    return box->right > -kEdgeMargin && box->left < frame.width + kEdgeMargin &&
-           box->top > -kEdgeMargin && box->bottom < frame.height + kEdgeMargin;
-}
-
 // Calls emit(first, count, general) for the runs of [begin, end) over which `general`
 // holds or fails. A run where it fails joins its neighbours when it is shorter than
 // `shortest` and does not fill the range, so that short runs cost no draw of their own.
@@ -95,9 +87,12 @@ PlanetShape shapeOf(const PlanetInstance& planet, const ScreenFrame& frame) {
                : PlanetShape::sprite;
 }
 
-void cullPlanets(std::vector<PlanetInstance>& instances, const ScreenFrame& frame) {
-    std::erase_if(instances,
-                  [&frame](const PlanetInstance& planet) { return !onScreen(planet, frame); });
+bool showsOnScreen(const PlanetInstance& planet, const ScreenFrame& frame) {
+    const auto box = silhouetteBox(planet, frame);
+    if (!box) // the sphere reaches the plane of the eye: it shows unless it lies behind
+        return -planet.center[2] > -planet.radius;
+    return box->right > -kEdgeMargin && box->left < frame.width + kEdgeMargin &&
+           box->top > -kEdgeMargin && box->bottom < frame.height + kEdgeMargin;
 }
 
 double largestSurfaceRadius(const std::vector<PlanetInstance>& instances,

@@ -50,8 +50,8 @@ std::optional<PixelBox> silhouetteBox(const PlanetInstance& planet, const Screen
 // included, fits in a sprite.
 PlanetShape shapeOf(const PlanetInstance& planet, const ScreenFrame& frame);
 
-// Removes the planets that leave no pixel on screen, keeping the order of the rest.
-void cullPlanets(std::vector<PlanetInstance>& instances, const ScreenFrame& frame);
+// Whether the planet leaves any pixel on screen.
+bool showsOnScreen(const PlanetInstance& planet, const ScreenFrame& frame);
 
 // The radius in pixels (half the larger side of the box) of the largest planet that wears a
 // surface; 0 when none does, infinite when one reaches the plane of the eye.

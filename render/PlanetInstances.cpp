@@ -21,7 +21,10 @@ void setColor(PlanetInstance& instance, const Color& color) {
     instance.color[3] = static_cast<float>(color.alpha);
 }
 
-PlanetInstance instanceOf(const Sphere& sphere, Vec3 center, const SurfaceLayerLookup& layerOf) {
+} // namespace
+
+std::optional<PlanetInstance> planetInstance(const Sphere& sphere, Vec3 center,
+                                             const SurfaceLayerLookup& layerOf) {
     PlanetInstance instance{};
     instance.center[0] = static_cast<float>(center.x);
     instance.center[1] = static_cast<float>(center.y);
@@ -41,10 +44,16 @@ PlanetInstance instanceOf(const Sphere& sphere, Vec3 center, const SurfaceLayerL
     } else {
         setColor(instance, std::get<Color>(material.diffuse));
     }
-    if (!material.emission.empty())
-        instance.surfaceLayer = static_cast<float>(layerOf(material.emission));
+    if (!material.emission.empty()) {
+        const std::optional<int> layer = layerOf(material.emission);
+        if (!layer)
+            return std::nullopt;
+        instance.surfaceLayer = static_cast<float>(*layer);
+    }
     return instance;
 }
+
+namespace {
 
 // The power of the eye with respect to the sphere. For spheres that do not intersect, the
 // one with the smaller power lies on the eye's side of their radical plane, which
@@ -63,9 +72,9 @@ std::uint32_t farthestFirstKey(const PlanetInstance& planet) {
     return ~ascending;
 }
 
-// Farthest first, ties in scene order: a least-significant-digit radix sort, stable and
-// linear in the number of planets.
-void sortFarthestFirst(std::vector<PlanetInstance>& instances) {
+// Farthest first, ties in scene order (the order of collection): a least-significant-digit
+// radix sort, stable and linear in the number of planets.
+void sortFarthestFirst(std::vector<PlanetInstance>& instances, std::vector<PlanetOrigin>& origins) {
     struct Keyed {
         std::uint32_t key;
         std::uint32_t index;
@@ -84,24 +93,39 @@ void sortFarthestFirst(std::vector<PlanetInstance>& instances) {
             sorted[start[(k.key >> shift) & 0xFF]++] = k;
         order.swap(sorted);
     }
-    std::vector<PlanetInstance> arranged(instances.size());
-    for (std::size_t i = 0; i < order.size(); ++i)
-        arranged[i] = instances[order[i].index];
-    instances.swap(arranged);
+    std::vector<PlanetInstance> arrangedInstances(instances.size());
+    std::vector<PlanetOrigin> arrangedOrigins(origins.size());
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        arrangedInstances[i] = instances[order[i].index];
+        arrangedOrigins[i] = origins[order[i].index];
+    }
+    instances.swap(arrangedInstances);
+    origins.swap(arrangedOrigins);
 }
 
-void collect(const SceneNode& node, Vec3 origin, Vec3 eye, const SurfaceLayerLookup& layerOf,
-             std::vector<PlanetInstance>& instances) {
-    for (const auto& child : node.children()) {
-        if (child->isHidden())
-            continue;
-        const Vec3 world = origin + child->position();
-        const auto& sphere = child->sphere();
-        if (sphere && sphere->radius > 0.0)
-            instances.push_back(instanceOf(*sphere, world - eye, layerOf));
-        if (child->childCount() > 0)
-            collect(*child, world, eye, layerOf, instances);
+struct Collection {
+    Vec3 eye;
+    const SurfaceLayerLookup& layerOf;
+    std::vector<PlanetInstance>& instances;
+    std::vector<PlanetOrigin>& origins;
+};
+
+void collect(const SceneNode& node, Vec3 origin, std::uint64_t branch, std::uint32_t& within,
+             Collection& into) {
+    if (node.isHidden())
+        return;
+    const Vec3 world = origin + node.position();
+    const auto& sphere = node.sphere();
+    if (sphere && sphere->radius > 0.0) {
+        // A pass over the whole scene is always given a layer.
+        if (const auto instance = planetInstance(*sphere, world - into.eye, into.layerOf)) {
+            into.instances.push_back(*instance);
+            into.origins.push_back({&node, branch, within});
+        }
     }
+    ++within;
+    for (const auto& child : node.children())
+        collect(*child, world, branch, within, into);
 }
 
 std::optional<SceneLight> firstLight(const SceneNode& node, Vec3 origin) {
@@ -120,11 +144,28 @@ std::optional<SceneLight> firstLight(const SceneNode& node, Vec3 origin) {
 
 } // namespace
 
+bool drawnBefore(const PlanetInstance& a, const PlanetOrigin& originA, const PlanetInstance& b,
+                 const PlanetOrigin& originB) {
+    const std::uint32_t keyA = farthestFirstKey(a);
+    const std::uint32_t keyB = farthestFirstKey(b);
+    if (keyA != keyB)
+        return keyA < keyB;
+    if (originA.branch != originB.branch)
+        return originA.branch < originB.branch;
+    return originA.within < originB.within;
+}
+
 void collectPlanetInstances(const SceneNode& root, Vec3 eye, const SurfaceLayerLookup& layerOf,
-                            std::vector<PlanetInstance>& instances) {
+                            std::vector<PlanetInstance>& instances,
+                            std::vector<PlanetOrigin>& origins) {
     instances.clear();
-    collect(root, root.position(), eye, layerOf, instances);
-    sortFarthestFirst(instances);
+    origins.clear();
+    Collection into{eye, layerOf, instances, origins};
+    for (const auto& child : root.children()) {
+        std::uint32_t within = 0;
+        collect(*child, root.position(), child->siblingOrder(), within, into);
+    }
+    sortFarthestFirst(instances, origins);
 }
 
 std::optional<SceneLight> findLight(const SceneNode& root) {

@@ -4,6 +4,7 @@
 #include "core/scene/SceneNode.h"
 #include "core/scene/Vec3.h"
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -21,15 +22,34 @@ struct PlanetInstance {
 };
 static_assert(sizeof(PlanetInstance) == 40);
 
-// Maps a surface image name to its texture layer, -1 when there is no such image.
-using SurfaceLayerLookup = std::function<int(const std::string& surfaceName)>;
+// Maps a surface image name to its texture layer, -1 when there is no such image; none when
+// the layer cannot be had without a pass over the whole scene.
+using SurfaceLayerLookup = std::function<std::optional<int>(const std::string& surfaceName)>;
 
-// Every sphere that can show (not hidden, no hidden ancestor, radius above 0), farthest
-// first, replacing the contents of `instances`. Drawn in this order, a nearer planet's soft
-// edge always blends over the planets behind it. The time taken grows in proportion to the
-// number of planets: the order comes from a radix sort.
+// The instance of a sphere whose centre lies at `center` relative to the eye; none when
+// `layerOf` gives no layer for its surface.
+std::optional<PlanetInstance> planetInstance(const Sphere& sphere, Vec3 center,
+                                             const SurfaceLayerLookup& layerOf);
+
+// Where a planet comes from: its node, as an identity to compare (see SceneChange), and its
+// place in scene order: the root's child it belongs to, then depth first below that child.
+struct PlanetOrigin {
+    const SceneNode* node = nullptr;
+    std::uint64_t branch = 0; // the root's child's SceneNode::siblingOrder
+    std::uint32_t within = 0; // 0 for the root's child itself
+};
+
+// Whether planet a is drawn before planet b: farther first, ties in scene order.
+bool drawnBefore(const PlanetInstance& a, const PlanetOrigin& originA, const PlanetInstance& b,
+                 const PlanetOrigin& originB);
+
+// Every sphere that can show (not hidden, no hidden ancestor, radius above 0) in the order
+// drawnBefore gives, replacing the contents of `instances` and beside them `origins`. Drawn in
+// this order, a nearer planet's soft edge always blends over the planets behind it. The time
+// taken grows in proportion to the number of planets: the order comes from a radix sort.
 void collectPlanetInstances(const SceneNode& root, Vec3 eye, const SurfaceLayerLookup& layerOf,
-                            std::vector<PlanetInstance>& instances);
+                            std::vector<PlanetInstance>& instances,
+                            std::vector<PlanetOrigin>& origins);
 
 struct SceneLight {
     Vec3 position; // in scene coordinates

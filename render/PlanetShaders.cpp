@@ -218,17 +218,29 @@ void main() {
 )";
 
 // Divides by alpha once, where the picture leaves the renderer: windows and files take
-// straight alpha.
-const char* const kComposeFragmentShader = R"(#version 330 core
+// straight alpha. Over a backdrop (straight alpha, top row first), the planets are laid on
+// it as blending "over" would lay them on a target that holds it, in the same pass.
+constexpr const char* kComposeFragmentShader = R"(
 uniform sampler2D canvas;
+#ifdef BACKDROP
+uniform sampler2D backdrop;
+#endif
 
 layout(location = 0) out vec4 pictureColor;
 
 void main() {
     vec4 premultiplied = texelFetch(canvas, ivec2(gl_FragCoord.xy), 0);
-    pictureColor = premultiplied.a > 0.0
-                       ? vec4(min(premultiplied.rgb / premultiplied.a, vec3(1.0)), premultiplied.a)
-                       : vec4(0.0);
+    vec4 straight = premultiplied.a > 0.0
+                        ? vec4(min(premultiplied.rgb / premultiplied.a, vec3(1.0)), premultiplied.a)
+                        : vec4(0.0);
+#ifdef BACKDROP
+    ivec2 size = textureSize(backdrop, 0);
+    vec4 under = texelFetch(backdrop, ivec2(gl_FragCoord.x, size.y - 1 - int(gl_FragCoord.y)), 0);
+    under.rgb *= under.a;
+    pictureColor = vec4(straight.rgb * straight.a, straight.a) + under * (1.0 - straight.a);
+#else
+    pictureColor = straight;
+#endif
 }
 )";
 
@@ -251,6 +263,11 @@ const char* shapeDefines(PlanetShape shape) {
 std::string planetVertexShader(PlanetShape shape) {
     return std::string("#version 330 core\n") + shapeDefines(shape) + "#define EDGE_MARGIN " +
            std::to_string(kEdgeMargin) + "\n" + kPlanetVertexShader;
+}
+
+std::string composeFragmentShader(bool overBackdrop) {
+    return std::string("#version 330 core\n") + (overBackdrop ? "#define BACKDROP\n" : "") +
+           kComposeFragmentShader;
 }
 
 std::string planetFragmentShader(PlanetShape shape, bool textured) {

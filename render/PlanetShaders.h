@@ -15,6 +15,7 @@ std::string planetVertexShader(PlanetShape shape);
 std::string planetFragmentShader(PlanetShape shape, bool textured);
 
 extern const char* const kComposeVertexShader;
-extern const char* const kComposeFragmentShader;
+// The pass that turns the canvas into the picture, alone or laid over a backdrop.
+std::string composeFragmentShader(bool overBackdrop);
 
 } // namespace orrery::render

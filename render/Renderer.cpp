@@ -6,12 +6,15 @@
 #include "render/GradientRamps.h"
 #include "render/PlanetDraws.h"
 #include "render/PlanetInstances.h"
+#include "render/PlanetList.h"
 #include "render/PlanetShaders.h"
+#include "render/PlanetUniforms.h"
 #include "render/ShaderProgram.h"
 #include "render/SurfaceTextures.h"
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 #include <vector>
 
@@ -22,14 +25,8 @@ namespace {
 constexpr int kRampUnit = 0;
 constexpr int kSurfaceUnit = 1;
 constexpr int kCanvasUnit = 0;
+constexpr int kBackdropUnit = 1;
 constexpr int kNeededGlVersion = 33;
-
-std::array<float, 16> toFloats(const std::array<double, 16>& matrix) {
-    std::array<float, 16> floats{};
-    std::transform(matrix.begin(), matrix.end(), floats.begin(),
-                   [](double value) { return static_cast<float>(value); });
-    return floats;
-}
 
 const char* glText(GLenum name) {
     const auto* text = reinterpret_cast<const char*>(glGetString(name));
@@ -51,8 +48,10 @@ struct PlanetProgram {
     GLint surfaceWidth = -1;
 };
 
-struct ComposeUniforms {
+struct ComposeProgram {
+    GlObject program{GlObject::Kind::program};
     GLint canvas = -1;
+    GLint backdrop = -1;
 };
 
 float largestPointSize() {
@@ -78,28 +77,32 @@ GlObject makeGradientRampTexture() {
 
 } // namespace
 
-// Everything the renderer keeps between frames. Planet data is rebuilt only when the
-// scene (or the eye) changed; a frame itself allocates nothing.
+// Everything the renderer keeps between frames. Planet data is brought up to date only when
+// the scene (or the eye) changed: patched from the scene's list of changed planets where it
+// can be, else rebuilt. The canvas keeps the planets as last drawn and is drawn again only
+// where the planets changed, or whole when the view changed.
 class RendererState {
 public:
-    bool blendOverTarget = false;
     explicit RendererState(SurfaceSource source) : surfaces(std::move(source)) {}
 
     bool build(std::string* error);
     bool render(const Scene& scene, const CameraProjection& camera, GLuint target, int width,
-                int height, std::string* error);
+                int height, bool overBackdrop, std::string* error);
     std::optional<Image> renderImage(const Scene& scene, const CameraProjection& camera, int width,
                                      int height, std::string* error);
     std::string description() const;
+    void setBackdrop(const Image& backdrop);
+    bool hasBackdrop() const { return static_cast<bool>(backdrop); }
 
 private:
     void refreshPlanets(const Scene& scene, const CameraProjection& camera, int width, int height);
-    void uploadInstances();
+    bool patchPlanets(const Scene& scene, const ScreenFrame& frame);
+    void upload(const std::vector<PlanetInstance>& planets);
     void drawPlanets(const CameraProjection& camera, int width, int height);
-    void useProgram(const PlanetProgram& shader, const CameraProjection& camera, int width,
-                    int height);
+    void drawInstances(const std::vector<PlanetDraw>& planetDraws, const PlanetUniforms& uniforms);
+    void useProgram(const PlanetProgram& shader, const PlanetUniforms& uniforms);
     void pointAttributesAt(std::size_t first);
-    void compose(GLuint target, int width, int height);
+    void compose(GLuint target, int width, int height, bool overBackdrop);
 
     // Plain tiny sprites are drawn as plain sprites: without textures the two are one.
     PlanetProgram& program(PlanetShape shape, bool textured) {
@@ -110,8 +113,7 @@ private:
 
     std::array<std::array<PlanetProgram, 2>, 3> programs; // [shape][textured]
     float pointSizeLimit = 1.0f;
-    GlObject composeProgram{GlObject::Kind::program};
-    ComposeUniforms composing;
+    std::array<ComposeProgram, 2> composing; // [over the backdrop]
     // Quads are instances of four vertices; sprites are plain vertices, one per planet, as a
     // software renderer runs its vertex stage once per instance rather than for eight
     // vertices at a time.
@@ -121,12 +123,19 @@ private:
     GlObject instanceBuffer{GlObject::Kind::buffer};
     std::size_t instanceBufferBytes = 0;
     GlObject gradientRamps{GlObject::Kind::texture};
+    GlObject backdrop{GlObject::Kind::texture}; // none without a backdrop
     SurfaceTextures surfaces;
     Canvas canvas;
     PictureFramebuffer picture;
 
-    std::vector<PlanetInstance> instances;
+    PlanetList planets;
     std::vector<PlanetDraw> draws;
+    std::optional<PixelBox> changedArea;
+    // What the canvas shows was drawn with these; none when it shows nothing to keep.
+    std::optional<PlanetUniforms> canvasUniforms;
+    // The planets and draws of a part of the canvas drawn again.
+    std::vector<PlanetInstance> areaInstances;
+    std::vector<PlanetDraw> areaDraws;
     std::optional<SceneLight> light;
     std::uint64_t sceneId = 0;
     std::uint64_t sceneRevision = 0;
@@ -165,11 +174,15 @@ bool RendererState::build(std::string* error) {
         }
     }
     pointSizeLimit = largestPointSize();
-    auto composeShaders = buildProgram(kComposeVertexShader, kComposeFragmentShader, error);
-    if (!composeShaders)
-        return false;
-    composeProgram = std::move(*composeShaders);
-    composing.canvas = glGetUniformLocation(composeProgram.id(), "canvas");
+    for (const bool overBackdrop : {false, true}) {
+        auto built = buildProgram(kComposeVertexShader, composeFragmentShader(overBackdrop), error);
+        if (!built)
+            return false;
+        ComposeProgram& shader = composing[overBackdrop ? 1 : 0];
+        shader.program = std::move(*built);
+        shader.canvas = glGetUniformLocation(shader.program.id(), "canvas");
+        shader.backdrop = glGetUniformLocation(shader.program.id(), "backdrop");
+    }
 
     instanceBuffer.create();
     for (GlObject* vertices : {&quadVertices, &spriteVertices}) {
@@ -193,28 +206,41 @@ void RendererState::refreshPlanets(const Scene& scene, const CameraProjection& c
     const Vec3 eye = camera.eye();
     const ScreenFrame frame{camera.ndcToRayX(), camera.ndcToRayY(), width, height,
                             static_cast<double>(pointSizeLimit)};
-    const bool sameFrame = frame.ndcToRayX == sceneFrame.ndcToRayX &&
-                           frame.ndcToRayY == sceneFrame.ndcToRayY &&
-                           frame.width == sceneFrame.width && frame.height == sceneFrame.height;
-    if (scene.id() == sceneId && scene.revision() == sceneRevision && eye == sceneEye && sameFrame)
+    const bool sameView = scene.id() == sceneId && eye == sceneEye &&
+                          frame.ndcToRayX == sceneFrame.ndcToRayX &&
+                          frame.ndcToRayY == sceneFrame.ndcToRayY &&
+                          frame.width == sceneFrame.width && frame.height == sceneFrame.height;
+    if (sameView && scene.revision() == sceneRevision)
         return;
-    surfaces.beginScene();
-    collectPlanetInstances(
-        scene.rootNode(), eye, [this](const std::string& name) { return surfaces.layerOf(name); },
-        instances);
-    cullPlanets(instances, frame);
-    surfaces.endScene(largestSurfaceRadius(instances, frame));
+    if (!sameView || !patchPlanets(scene, frame)) {
+        surfaces.beginScene();
+        planets.rebuild(scene.rootNode(), eye, frame,
+                        [this](const std::string& name) { return surfaces.layerOf(name); });
+        surfaces.endScene(largestSurfaceRadius(planets.instances(), frame));
+    }
     light = findLight(scene.rootNode());
-    groupPlanetDraws(instances, frame, draws);
-    uploadInstances();
+    groupPlanetDraws(planets.instances(), frame, draws);
+    changedArea = planets.takeChangedArea(draws);
     sceneId = scene.id();
     sceneRevision = scene.revision();
     sceneEye = eye;
     sceneFrame = frame;
 }
 
-void RendererState::uploadInstances() {
-    const std::size_t bytes = instances.size() * sizeof(PlanetInstance);
+// The planets changed since the last look, redone one by one; false when one needs what
+// only a pass over the whole scene gives the surfaces (a new image or another level of
+// detail), and the planets are to be rebuilt.
+bool RendererState::patchPlanets(const Scene& scene, const ScreenFrame& frame) {
+    const auto changes = scene.changesSince(sceneRevision);
+    if (!changes)
+        return false;
+    return planets.patch(scene.rootNode(), *changes, [this](const std::string& name) {
+        return surfaces.heldLayer(name);
+    }) && surfaces.keepsDetailFor(largestSurfaceRadius(planets.instances(), frame));
+}
+
+void RendererState::upload(const std::vector<PlanetInstance>& planetsToDraw) {
+    const std::size_t bytes = planetsToDraw.size() * sizeof(PlanetInstance);
     glBindBuffer(GL_ARRAY_BUFFER, instanceBuffer.id());
     if (bytes > instanceBufferBytes) {
         // Room to grow, so that adding planets one by one does not reallocate each time.
@@ -223,21 +249,49 @@ void RendererState::uploadInstances() {
                      GL_DYNAMIC_DRAW);
     }
     if (bytes > 0)
-        glBufferSubData(GL_ARRAY_BUFFER, 0, static_cast<GLsizeiptr>(bytes), instances.data());
+        glBufferSubData(GL_ARRAY_BUFFER, 0, static_cast<GLsizeiptr>(bytes), planetsToDraw.data());
 }
 
 void RendererState::drawPlanets(const CameraProjection& camera, int width, int height) {
+    const PlanetUniforms uniforms =
+        planetUniforms(camera, light, width, height, surfaces.layerWidth());
+    // Drawn with other values, every pixel may differ; with the same, only where planets
+    // changed.
+    std::optional<PixelRect> part;
+    if (canvasUniforms == uniforms) {
+        if (!changedArea)
+            return;
+        part = pixelsOf(*changedArea, width, height);
+    }
+    changedArea.reset();
+    canvasUniforms = uniforms;
+
     glBindFramebuffer(GL_FRAMEBUFFER, canvas.framebuffer());
     glViewport(0, 0, width, height);
-    glDisable(GL_SCISSOR_TEST);
     glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     glDepthMask(GL_TRUE);
     glClearColor(0.0f, 0.0f, 0.0f, 0.0f);
     glClearDepth(1.0);
+    if (part) {
+        glEnable(GL_SCISSOR_TEST);
+        glScissor(part->x, part->y, part->width, part->height);
+        const PixelBox area{static_cast<double>(part->x), static_cast<double>(part->y),
+                            static_cast<double>(part->x + part->width),
+                            static_cast<double>(part->y + part->height)};
+        planets.planetsIn(area, draws, areaInstances, areaDraws);
+    } else {
+        glDisable(GL_SCISSOR_TEST);
+    }
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
-    if (instances.empty())
-        return;
+    upload(part ? areaInstances : planets.instances());
+    drawInstances(part ? areaDraws : draws, uniforms);
+    glDisable(GL_SCISSOR_TEST);
+}
 
+void RendererState::drawInstances(const std::vector<PlanetDraw>& planetDraws,
+                                  const PlanetUniforms& uniforms) {
+    if (planetDraws.empty())
+        return;
     glEnable(GL_DEPTH_TEST);
     glDepthFunc(GL_LESS);
     glEnable(GL_BLEND);
@@ -249,8 +303,8 @@ void RendererState::drawPlanets(const CameraProjection& camera, int width, int h
     glBindTexture(GL_TEXTURE_2D, gradientRamps.id());
     glActiveTexture(GL_TEXTURE0 + kSurfaceUnit);
     glBindTexture(GL_TEXTURE_2D_ARRAY, surfaces.texture());
-    for (const PlanetDraw& draw : draws) {
-        useProgram(program(draw.shape, draw.textured), camera, width, height);
+    for (const PlanetDraw& draw : planetDraws) {
+        useProgram(program(draw.shape, draw.textured), uniforms);
         const auto count = static_cast<GLsizei>(draw.count);
         if (draw.shape != PlanetShape::quad) {
             glBindVertexArray(spriteVertices.id());
@@ -265,26 +319,17 @@ void RendererState::drawPlanets(const CameraProjection& camera, int width, int h
     glActiveTexture(GL_TEXTURE0);
 }
 
-void RendererState::useProgram(const PlanetProgram& shader, const CameraProjection& camera,
-                               int width, int height) {
+void RendererState::useProgram(const PlanetProgram& shader, const PlanetUniforms& uniforms) {
     glUseProgram(shader.program.id());
-    const auto projection = toFloats(camera.matrix());
-    glUniformMatrix4fv(shader.projection, 1, GL_FALSE, projection.data());
-    glUniform1f(shader.pixelAngle, static_cast<float>(2.0 * camera.ndcToRayY() / height));
-    glUniform4f(shader.viewport, 0.0f, 0.0f, static_cast<float>(width), static_cast<float>(height));
-    glUniform2f(shader.ndcToRay, static_cast<float>(camera.ndcToRayX()),
-                static_cast<float>(camera.ndcToRayY()));
-    const Vec3 eye = camera.eye();
-    const Vec3 lightOffset = light ? light->position - eye : Vec3{};
-    glUniform3f(shader.lightPosition, static_cast<float>(lightOffset.x),
-                static_cast<float>(lightOffset.y), static_cast<float>(lightOffset.z));
-    const Color lightColor = light ? light->color : Color{0.0, 0.0, 0.0, 1.0};
-    glUniform3f(shader.lightColor, static_cast<float>(srgbToLinear(lightColor.red)),
-                static_cast<float>(srgbToLinear(lightColor.green)),
-                static_cast<float>(srgbToLinear(lightColor.blue)));
+    glUniformMatrix4fv(shader.projection, 1, GL_FALSE, uniforms.projection.data());
+    glUniform1f(shader.pixelAngle, uniforms.pixelAngle);
+    glUniform4f(shader.viewport, 0.0f, 0.0f, uniforms.viewport[0], uniforms.viewport[1]);
+    glUniform2f(shader.ndcToRay, uniforms.ndcToRay[0], uniforms.ndcToRay[1]);
+    glUniform3fv(shader.lightPosition, 1, uniforms.lightPosition.data());
+    glUniform3fv(shader.lightColor, 1, uniforms.lightColor.data());
     glUniform1i(shader.gradientRamps, kRampUnit);
     glUniform1i(shader.surfaces, kSurfaceUnit);
-    glUniform1f(shader.surfaceWidth, static_cast<float>(surfaces.layerWidth()));
+    glUniform1f(shader.surfaceWidth, uniforms.surfaceWidth);
 }
 
 // Instanced draws start at their first planet by moving where the per-planet attributes
@@ -302,21 +347,36 @@ void RendererState::pointAttributesAt(std::size_t first) {
     attribute(2, 2, offsetof(PlanetInstance, rampRow));
 }
 
-void RendererState::compose(GLuint target, int width, int height) {
+void RendererState::setBackdrop(const Image& image) {
+    if (image.isNull()) {
+        backdrop.reset();
+        return;
+    }
+    backdrop.create();
+    glBindTexture(GL_TEXTURE_2D, backdrop.id());
+    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
+    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, image.width, image.height, 0, GL_RGBA,
+                 GL_UNSIGNED_BYTE, image.pixels.data());
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
+}
+
+void RendererState::compose(GLuint target, int width, int height, bool overBackdrop) {
     glBindFramebuffer(GL_FRAMEBUFFER, target);
     glViewport(0, 0, width, height);
     glDisable(GL_DEPTH_TEST);
-    if (blendOverTarget) {
-        // The composed colours are straight alpha: "over" on an opaque backdrop.
-        glEnable(GL_BLEND);
-        glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
-    } else {
-        glDisable(GL_BLEND);
-    }
-    glUseProgram(composeProgram.id());
-    glUniform1i(composing.canvas, kCanvasUnit);
+    glDisable(GL_BLEND);
+    const ComposeProgram& shader = composing[overBackdrop ? 1 : 0];
+    glUseProgram(shader.program.id());
+    glUniform1i(shader.canvas, kCanvasUnit);
     glActiveTexture(GL_TEXTURE0 + kCanvasUnit);
     glBindTexture(GL_TEXTURE_2D, canvas.colorTexture());
+    if (overBackdrop) {
+        glUniform1i(shader.backdrop, kBackdropUnit);
+        glActiveTexture(GL_TEXTURE0 + kBackdropUnit);
+        glBindTexture(GL_TEXTURE_2D, backdrop.id());
+        glActiveTexture(GL_TEXTURE0);
+    }
     glBindVertexArray(composeVertices.id());
     glDrawArrays(GL_TRIANGLES, 0, 3);
     glBindVertexArray(0);
@@ -324,16 +384,19 @@ void RendererState::compose(GLuint target, int width, int height) {
 }
 
 bool RendererState::render(const Scene& scene, const CameraProjection& camera, GLuint target,
-                           int width, int height, std::string* error) {
+                           int width, int height, bool overBackdrop, std::string* error) {
     // Errors left over from whoever used the context before are not ours to report.
     while (glGetError() != GL_NO_ERROR) {
     }
-    if (!canvas.ensureSize(width, height, error))
+    if (!canvas.ensureSize(width, height, error)) {
+        canvasUniforms.reset();
         return false;
+    }
     refreshPlanets(scene, camera, width, height);
     drawPlanets(camera, width, height);
-    compose(target, width, height);
+    compose(target, width, height, overBackdrop);
     if (const GLenum problem = glGetError(); problem != GL_NO_ERROR) {
+        canvasUniforms.reset();
         if (error != nullptr)
             *error = problem == GL_OUT_OF_MEMORY
                          ? "OpenGL ran out of memory while drawing"
@@ -347,10 +410,7 @@ std::optional<Image> RendererState::renderImage(const Scene& scene, const Camera
                                                 int width, int height, std::string* error) {
     if (!picture.ensureSize(width, height, error))
         return std::nullopt;
-    const bool blending = std::exchange(blendOverTarget, false);
-    const bool drawn = render(scene, camera, picture.framebuffer(), width, height, error);
-    blendOverTarget = blending;
-    if (!drawn)
+    if (!render(scene, camera, picture.framebuffer(), width, height, false, error))
         return std::nullopt;
     Image image(width, height);
     glBindFramebuffer(GL_READ_FRAMEBUFFER, picture.framebuffer());
@@ -372,8 +432,8 @@ std::string RendererState::description() const {
 
 Renderer::Renderer(std::unique_ptr<render::RendererState> state) : state_(std::move(state)) {}
 
-void Renderer::setBlendOverTarget(bool blend) {
-    state_->blendOverTarget = blend;
+void Renderer::setBackdrop(const Image& backdrop) {
+    state_->setBackdrop(backdrop);
 }
 Renderer::~Renderer() = default;
 
@@ -391,7 +451,7 @@ bool Renderer::render(const SceneView& view, unsigned framebuffer, int width, in
 
 bool Renderer::render(const Scene& scene, const CameraProjection& camera, unsigned framebuffer,
                       int width, int height, std::string* error) {
-    return state_->render(scene, camera, framebuffer, width, height, error);
+    return state_->render(scene, camera, framebuffer, width, height, state_->hasBackdrop(), error);
 }
 
 std::optional<Image> Renderer::renderImage(const SceneView& view, int width, int height,

@@ -43,9 +43,11 @@ public:
     std::optional<Image> renderImage(const Scene& scene, const CameraProjection& camera, int width,
                                      int height, std::string* error = nullptr);
 
-    // Whether render() lays the planets over what the framebuffer already holds (a
-    // backdrop drawn just before) instead of replacing it; pictures never blend.
-    void setBlendOverTarget(bool blend);
+    // The picture that render() lays the planets over, in the same pass that finishes the
+    // picture: the target's size, top row first, straight alpha; kept until the next call.
+    // An empty image for none: render() then replaces what the target holds. Pictures
+    // (renderImage) never have a backdrop.
+    void setBackdrop(const Image& backdrop);
 
     // The OpenGL renderer and what the renderer uses of it, for logs and benchmarks.
     std::string description() const;

@@ -145,10 +145,8 @@ void SurfaceTextures::endScene(double largestRadiusPixels) {
             free_.push_back(it->second.layer);
         it = entries_.erase(it);
     }
-    // With no surface on screen there is nothing to learn about the detail needed.
-    const int width =
-        largestRadiusPixels > 0.0 || width_ == 0 ? detailWidth(largestRadiusPixels) : width_;
-    const bool newDetail = width > width_ || width * 4 <= width_;
+    const int width = widthFor(largestRadiusPixels);
+    const bool newDetail = width != width_;
     if (newDetail || handedOut_ > capacity_) {
         // Growing keeps every surface in its layer; a new level of detail fetches them again.
         std::vector<std::pair<int, int>> moves;
@@ -178,6 +176,26 @@ void SurfaceTextures::endScene(double largestRadiusPixels) {
             entry.layer = -1;
         }
     }
+}
+
+int SurfaceTextures::widthFor(double largestRadiusPixels) const {
+    // With no surface on screen there is nothing to learn about the detail needed.
+    const int width =
+        largestRadiusPixels > 0.0 || width_ == 0 ? detailWidth(largestRadiusPixels) : width_;
+    // Less detail only once a quarter would do, so that a planet shrinking a little does not
+    // fetch every surface again.
+    return width > width_ || width * 4 <= width_ ? width : width_;
+}
+
+std::optional<int> SurfaceTextures::heldLayer(const std::string& name) const {
+    const auto found = entries_.find(name);
+    if (found == entries_.end() || !found->second.loaded)
+        return std::nullopt;
+    return found->second.layer;
+}
+
+bool SurfaceTextures::keepsDetailFor(double largestRadiusPixels) const {
+    return widthFor(largestRadiusPixels) == width_;
 }
 
 void SurfaceTextures::reallocate(int capacity, const std::vector<std::pair<int, int>>& moves) {

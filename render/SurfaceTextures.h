@@ -3,6 +3,7 @@
 #include "render/GlObject.h"
 #include "render/SurfaceSource.h"
 
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -38,6 +39,12 @@ public:
     int layerOf(const std::string& name);
     void endScene(double largestRadiusPixels);
 
+    // Between passes: the layer of a surface that the last pass loaded (-1 when the source
+    // had no image for it), none for a surface that needs a pass; and whether a pass with
+    // this largest radius would keep the present level of detail.
+    std::optional<int> heldLayer(const std::string& name) const;
+    bool keepsDetailFor(double largestRadiusPixels) const;
+
     GLuint texture() const { return texture_.id(); }
     int layerCount() const { return capacity_; }
     int layerWidth() const { return width_; } // the height is half of it
@@ -53,6 +60,7 @@ private:
     void reallocate(int capacity, const std::vector<std::pair<int, int>>& moves);
     bool upload(const std::string& name, int layer);
     void blank(int layer);
+    int widthFor(double largestRadiusPixels) const;
 
     SurfaceSource source_;
     GlObject texture_{GlObject::Kind::texture};

@@ -1,50 +1,9 @@
 #include "core/scene/CameraProjection.h"
 
-#include <algorithm>
 #include <cmath>
-#include <limits>
 #include <numbers>
 
 namespace orrery {
-namespace {
-
-// Margins so that the nearest and farthest sphere points never sit exactly on a plane,
-// where rounding would clip them.
-constexpr double kRangeMargin = 0.01;
-// The near plane never comes closer than this fraction of the far distance, which keeps
-// depth-buffer precision when a sphere reaches the eye.
-constexpr double kMinNearFraction = 1e-4;
-
-void widenRange(const SceneNode& node, Vec3 origin, Vec3 eye, double& nearest, double& farthest) {
-    for (const auto& child : node.children()) {
-        if (child->isHidden())
-            continue;
-        const Vec3 world = origin + child->position();
-        if (child->sphere() && child->sphere()->radius > 0.0) {
-            const double distance = eye.z - world.z;
-            const double radius = child->sphere()->radius;
-            if (distance + radius > 0.0) {
-                nearest = std::min(nearest, distance - radius);
-                farthest = std::max(farthest, distance + radius);
-            }
-        }
-        if (child->childCount() > 0)
-            widenRange(*child, world, eye, nearest, farthest);
-    }
-}
-
-} // namespace
-
-DepthRange depthRangeCovering(const SceneNode& root, Vec3 eye) {
-    double nearest = std::numeric_limits<double>::infinity();
-    double farthest = -std::numeric_limits<double>::infinity();
-    widenRange(root, root.position(), eye, nearest, farthest);
-    if (!(farthest > 0.0) || !std::isfinite(farthest) || !std::isfinite(nearest))
-        return DepthRange{};
-    const double zFar = farthest * (1.0 + kRangeMargin);
-    const double zNear = std::max(nearest * (1.0 - kRangeMargin), zFar * kMinNearFraction);
-    return DepthRange{zNear, zFar};
-}
 
 CameraProjection::CameraProjection(Vec3 eye, double yFovDegrees, double viewWidth,
                                    double viewHeight, DepthRange range)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/scene/SceneNode.h"
 #include "core/scene/Vec3.h"
 
 #include <array>
@@ -14,11 +13,6 @@ struct DepthRange {
 
     friend bool operator==(const DepthRange&, const DepthRange&) = default;
 };
-
-// A range that holds every visible sphere in front of the eye, for a camera looking along
-// -z. It depends only on the spheres' z, their radii and the eye's z, so moving a planet
-// across the screen leaves it unchanged. Without any such sphere: 1 to 100.
-DepthRange depthRangeCovering(const SceneNode& root, Vec3 eye);
 
 // The perspective through which the scene is seen: an eye that looks along -z (the
 // camera is only ever moved, never turned), a vertical field of view, and a view of

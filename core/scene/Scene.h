@@ -12,7 +12,7 @@ namespace orrery {
 // scene and never replaced.
 class Scene {
 public:
-    Scene() : root_(SceneNode::create()), id_(nextId()) {}
+    Scene() : root_(SceneNode::create()), id_(nextId()) { root_->changeLog_ = &changeLog_; }
     Scene(const Scene&) = delete;
     Scene& operator=(const Scene&) = delete;
 
@@ -25,12 +25,19 @@ public:
     // never mistakes a new scene at an old address for the old one.
     std::uint64_t id() const { return id_; }
 
+    // The planets that changed after `revision` (see SceneNode); none when the log does not
+    // reach back that far, and the whole scene has to be looked at again.
+    std::optional<std::vector<SceneChange>> changesSince(std::uint64_t revision) const {
+        return changeLog_.changesSince(revision);
+    }
+
 private:
     static std::uint64_t nextId() {
         static std::atomic<std::uint64_t> counter{0};
         return ++counter;
     }
 
+    SceneChangeLog changeLog_; // outlives the root, which points at it
     std::shared_ptr<SceneNode> root_;
     std::uint64_t id_;
 };

@@ -11,9 +11,21 @@ SceneNode::~SceneNode() {
         child->parent_ = nullptr;
 }
 
-void SceneNode::touch() {
-    for (SceneNode* node = this; node != nullptr; node = node->parent_)
+void SceneNode::touch(const SceneNode& changed) {
+    SceneNode* top = this;
+    for (SceneNode* node = this; node != nullptr; node = node->parent_) {
         ++node->revision_;
+        top = node;
+    }
+    if (top->changeLog_ == nullptr)
+        return;
+    // A planet changed itself (its parent is the root), or the root gained or lost it.
+    const bool planet =
+        &changed != top && changed.children_.empty() && (changed.parent_ == top || this == top);
+    if (planet)
+        top->changeLog_->record(top->revision_, changed);
+    else
+        top->changeLog_->breakAt(top->revision_);
 }
 
 void SceneNode::setName(std::string name) {
@@ -76,7 +88,7 @@ void SceneNode::addChildNode(std::shared_ptr<SceneNode> child) {
     raw->placeInParent_ = std::prev(children_.end());
     raw->appendOrder_ = nextAppendOrder_++;
     indexChild(raw);
-    touch();
+    touch(*raw);
 }
 
 void SceneNode::removeFromParentNode() {
@@ -88,7 +100,7 @@ void SceneNode::removeFromParentNode() {
     const std::shared_ptr<SceneNode> keep = *placeInParent_;
     parent->children_.erase(placeInParent_);
     parent_ = nullptr;
-    parent->touch();
+    parent->touch(*this);
 }
 
 std::vector<std::shared_ptr<SceneNode>> SceneNode::childNodesNamed(std::string_view name) const {

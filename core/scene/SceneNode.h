@@ -2,6 +2,7 @@
 
 #include "core/model/Color.h"
 #include "core/scene/Material.h"
+#include "core/scene/SceneChangeLog.h"
 #include "core/scene/Vec3.h"
 
 #include <cstdint>
@@ -41,7 +42,11 @@ struct Light {
 // A node of the scene graph: a name, a position relative to its parent, a hidden flag
 // (hiding a node hides everything below it) and optionally a sphere, a camera or a light.
 // Nodes are shared: whoever keeps a node removed from the scene keeps a detached node.
-class SceneNode {
+//
+// A scene's change log lists the planets that changed: nodes without children right under
+// the root, each changed, added or taken away. Any other change (of the root, of a node
+// with children, or below the root's children) breaks the log.
+class SceneNode : public std::enable_shared_from_this<SceneNode> {
 public:
     using ChildList = std::list<std::shared_ptr<SceneNode>>;
 
@@ -82,13 +87,22 @@ public:
     // snapshot: the caller may remove or add children while walking it.
     std::vector<std::shared_ptr<SceneNode>> childNodesNamed(std::string_view name) const;
 
+    // Increases along the parent's child list: the order of siblings as a number.
+    std::uint64_t siblingOrder() const { return appendOrder_; }
+
     // Grows by at least one with every change at or below this node; read it on the root
-    // to learn whether anything in the scene changed since the last look.
+    // to learn whether anything in the scene changed since the last look. On the root it
+    // grows by exactly one with every change.
     std::uint64_t revision() const { return revision_; }
 
 private:
+    friend class Scene;
+
     SceneNode() = default;
-    void touch();
+    // Counts a change of `changed` (this node, or a child just added or taken away) here and
+    // in every ancestor, and tells the change log of the scene this belongs to.
+    void touch(const SceneNode& changed);
+    void touch() { touch(*this); }
     void indexChild(SceneNode* child);
     void unindexChild(SceneNode* child);
 
@@ -117,6 +131,7 @@ private:
     // does not walk them all.
     NameIndex childrenByName_;
     std::uint64_t revision_ = 0;
+    SceneChangeLog* changeLog_ = nullptr; // set on a scene's root only
 };
 
 } // namespace orrery

@@ -165,13 +165,7 @@ void SceneView::setViewSize(double width, double height) {
 }
 
 DepthRange SceneView::depthRange() const {
-    const Vec3 eye = cameraNode_->worldPosition();
-    if (!cachedRangeValid_ || cachedRangeRevision_ != scene_.revision()) {
-        cachedRange_ = depthRangeCovering(scene_.rootNode(), eye);
-        cachedRangeRevision_ = scene_.revision();
-        cachedRangeValid_ = true;
-    }
-    return cachedRange_;
+    return depthRange_.of(scene_, cameraNode_->worldPosition());
 }
 
 CameraProjection SceneView::projection(double width, double height) const {

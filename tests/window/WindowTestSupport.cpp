@@ -1,11 +1,13 @@
 #include "tests/window/WindowTestSupport.h"
 
 #include "customWin/mainWindow.h"
+#include "customWin/sceneView.h"
 
 #include <QApplication>
 #include <QCoreApplication>
 #include <QLineEdit>
 #include <QScreen>
+#include <QSignalSpy>
 #include <QTest>
 
 namespace orrery::window::testing {
@@ -27,14 +29,21 @@ FreshStart::~FreshStart() {
 }
 
 void FreshStart::start(Tour tour) {
+    // The tour, if it comes, comes with the scene's first frame.
+    QSignalSpy firstFrame(&delegate_->sceneview(), &sceneView::framePainted);
     delegate_->applicationWillFinishLaunching();
+    QVERIFY(firstFrame.count() > 0 || firstFrame.wait(20000));
     if (QWidget* introduction = visibleTopLevel("introductionWindow");
         introduction != nullptr && tour == Tour::close)
         introduction->close();
     mainWindow& window = delegate_->window();
-    // Under Xvfb there is no window manager to give the window the keyboard.
-    window.activateWindow();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
+    // The keyboard goes to the main window, unless the test keeps the tour in front; the
+    // window manager hands it over in its own time.
+    if (tour == Tour::close) {
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+    }
 }
 
 QString FreshStart::appFolder() const {

@@ -6,11 +6,13 @@
 #include "customWin/AppStyle.h"
 #include "customWin/WindowMain.h"
 #include "customWin/mainWindow.h"
+#include "customWin/sceneView.h"
 #include "resources/translations/Translations.h"
 #include "tools/screenshots/Shots.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QWidget>
 
@@ -38,10 +40,14 @@ int main(int argc, char** argv) {
     QDir().mkpath(out);
 
     orrery::window::AppDelegate app;
+    // The first start's tour, which follows the first frame, is pictured on its own; the
+    // window is pictured without it.
+    QSignalSpy firstFrame(&app.sceneview(), &orrery::window::sceneView::framePainted);
     app.applicationWillFinishLaunching();
-    // The first start's tour is pictured on its own; the window is pictured without it.
-    if (auto* introduction = app.window().findChild<QWidget*>(QStringLiteral("introductionWindow")))
-        introduction->close();
+    if (firstFrame.count() > 0 || firstFrame.wait(20000))
+        if (auto* introduction =
+                app.window().findChild<QWidget*>(QStringLiteral("introductionWindow")))
+            introduction->close();
     if (tour)
         orrery::screenshots::makeTourPictures(app, out, package);
     else

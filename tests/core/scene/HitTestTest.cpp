@@ -1,5 +1,6 @@
 #include "core/scene/HitTest.h"
 #include "core/scene/Scene.h"
+#include "core/scene/SceneDepthRange.h"
 #include "core/scene/SceneView.h"
 
 #include <gtest/gtest.h>
@@ -20,7 +21,7 @@ std::shared_ptr<SceneNode> addSphere(SceneNode& parent, const std::string& name,
 // A camera at z 500 with an 800 x 600 view; the view centre looks down -z.
 CameraProjection cameraFor(const Scene& scene) {
     const Vec3 eye{0, 0, 500};
-    return CameraProjection(eye, 45.0, 800, 600, depthRangeCovering(scene.rootNode(), eye));
+    return CameraProjection(eye, 45.0, 800, 600, SceneDepthRange().of(scene, eye));
 }
 
 TEST(HitTest, ReturnsEveryHitNearestFirst_OnTheSphereUnderTheViewPoint) {

@@ -1,5 +1,6 @@
 #include "core/scene/CameraProjection.h"
 #include "core/scene/Scene.h"
+#include "core/scene/SceneDepthRange.h"
 
 #include <gtest/gtest.h>
 
@@ -51,26 +52,41 @@ TEST(CameraProjection, ViewOriginIsBottomLeft_YUp_DepthFromNearToFar_RaysThrough
 TEST(DepthRange, CoversEveryVisibleSphereInFrontOfTheEye) {
     Scene scene;
     const Vec3 eye{0, 0, 500};
-    EXPECT_EQ(depthRangeCovering(scene.rootNode(), eye), DepthRange{}); // nothing to cover
+    // One range kept along the changes below, each time equal to one made afresh.
+    SceneDepthRange kept;
+    const auto rangeOf = [&](const Scene& of) {
+        const DepthRange fresh = SceneDepthRange().of(of, eye);
+        EXPECT_EQ(kept.of(of, eye), fresh);
+        return fresh;
+    };
+    EXPECT_EQ(rangeOf(scene), DepthRange{}); // nothing to cover
 
     addSphere(scene, {0, 0, 0}, 24);
     addSphere(scene, {300, -40, -300}, 50);
     addSphere(scene, {0, 0, -5000}, 10, true); // hidden: ignored
     addSphere(scene, {0, 0, 900}, 10);         // behind the eye: ignored
-    const DepthRange range = depthRangeCovering(scene.rootNode(), eye);
+    const DepthRange range = rangeOf(scene);
     EXPECT_LE(range.zNear, 476.0);
     EXPECT_GT(range.zNear, 450.0);
     EXPECT_GE(range.zFar, 850.0);
     EXPECT_LT(range.zFar, 900.0);
 
     // Sideways moves leave the range alone, so a drag never changes the depth scale.
-    scene.rootNode().children().front()->setPosition({-250, 120, 0});
-    EXPECT_EQ(depthRangeCovering(scene.rootNode(), eye), range);
+    const auto nearest = scene.rootNode().children().front();
+    nearest->setPosition({-250, 120, 0});
+    EXPECT_EQ(rangeOf(scene), range);
+    // The spheres that set the range grow, shrink and go: the range follows.
+    nearest->setSphere(Sphere{100, std::nullopt});
+    EXPECT_LT(rangeOf(scene).zNear, range.zNear);
+    nearest->setHidden(true);
+    EXPECT_GT(rangeOf(scene).zNear, range.zNear);
+    (*std::next(scene.rootNode().children().begin()))->removeFromParentNode();
+    EXPECT_EQ(rangeOf(scene), DepthRange{});
 
     // A sphere around the eye keeps the near plane in front of it.
     Scene around;
     addSphere(around, {0, 0, 480}, 40);
-    EXPECT_GT(depthRangeCovering(around.rootNode(), eye).zNear, 0.0);
+    EXPECT_GT(rangeOf(around).zNear, 0.0);
 }
 
 } // namespace

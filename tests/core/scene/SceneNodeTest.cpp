@@ -75,6 +75,55 @@ TEST(SceneNode, EveryChangeBelowTheRootChangesTheRevision) {
     EXPECT_FALSE(changed());
 }
 
+// The change log lists a planet (a childless node under the root) for each change to it,
+// its coming and its going; any other change leaves nothing to go by.
+TEST(SceneNode, ChangeLogListsChangedPlanets_AndBreaksAtAnyOtherChange) {
+    Scene scene;
+    auto planet = named("planet");
+    auto other = named("other");
+    const auto since = scene.revision();
+    const auto keysSince = [&](std::uint64_t revision) {
+        std::vector<const SceneNode*> keys;
+        const auto changes = scene.changesSince(revision);
+        for (const SceneChange& change : changes.value())
+            keys.push_back(change.key);
+        return keys;
+    };
+    scene.rootNode().addChildNode(planet);
+    scene.rootNode().addChildNode(other);
+    planet->setPosition({1, 2, 3});
+    const auto afterMove = scene.revision();
+    other->removeFromParentNode();
+    other.reset(); // gone: the log still tells it apart, and no longer reaches it
+    EXPECT_EQ(keysSince(since).size(), 4u);
+    const auto changes = scene.changesSince(afterMove).value();
+    ASSERT_EQ(changes.size(), 1u);
+    EXPECT_TRUE(changes[0].node.expired());
+    EXPECT_EQ(keysSince(scene.revision()).size(), 0u);
+
+    // Only the latest changes are kept.
+    const auto beforeMany = scene.revision();
+    for (std::size_t i = 0; i <= SceneChangeLog::kCapacity; ++i)
+        planet->setHidden(i % 2 == 0);
+    EXPECT_FALSE(scene.changesSince(beforeMany));
+    EXPECT_EQ(keysSince(beforeMany + 1).size(), SceneChangeLog::kCapacity);
+
+    const std::function<void()> breaks[] = {
+        [&] {
+            scene.rootNode().setPosition({1, 0, 0});
+        },
+        [&] { planet->addChildNode(named("moon")); },         // the planet gains a child
+        [&] { planet->children().front()->setHidden(true); }, // below the root's children
+        [&] { planet->setName("group"); },                    // a node with children
+    };
+    for (std::size_t i = 0; i < std::size(breaks); ++i) {
+        const auto before = scene.revision();
+        breaks[i]();
+        EXPECT_FALSE(scene.changesSince(before)) << "change " << i;
+        EXPECT_TRUE(scene.changesSince(scene.revision())) << "change " << i;
+    }
+}
+
 TEST(SceneNode, AddingANodeElsewhereMovesIt_AndWorldPositionAddsTheParents) {
     Scene scene;
     auto group = named("group");

@@ -1,0 +1,166 @@
+#include "render/PlanetList.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace orrery::render {
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr PixelBox kEverywhere{-kInfinity, -kInfinity, kInfinity, kInfinity};
+constexpr std::uint8_t kNotDrawn = 0;
+
+PixelBox reachOf(const PlanetInstance& planet, const ScreenFrame& frame) {
+    const auto box = silhouetteBox(planet, frame);
+    if (!box)
+        return kEverywhere;
+    return {box->left - kEdgeMargin, box->bottom - kEdgeMargin, box->right + kEdgeMargin,
+            box->top + kEdgeMargin};
+}
+
+bool overlap(const PixelBox& a, const PixelBox& b) {
+    return a.left < b.right && b.left < a.right && a.bottom < b.top && b.bottom < a.top;
+}
+
+std::uint8_t drawnAs(const PlanetDraw& draw) {
+    return static_cast<std::uint8_t>(1 + static_cast<int>(draw.shape) * 2 +
+                                     (draw.textured ? 1 : 0));
+}
+
+} // namespace
+
+void PlanetList::changed(const PixelBox& area) {
+    if (!changedArea_) {
+        changedArea_ = area;
+        return;
+    }
+    PixelBox& box = *changedArea_;
+    box = {std::min(box.left, area.left), std::min(box.bottom, area.bottom),
+           std::max(box.right, area.right), std::max(box.top, area.top)};
+}
+
+void PlanetList::rebuild(const SceneNode& root, Vec3 eye, const ScreenFrame& frame,
+                         const SurfaceLayerLookup& layerOf) {
+    std::vector<PlanetOrigin> origins;
+    collectPlanetInstances(root, eye, layerOf, instances_, origins);
+    entries_.clear();
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < instances_.size(); ++i) {
+        if (!showsOnScreen(instances_[i], frame))
+            continue;
+        instances_[kept++] = instances_[i];
+        entries_.push_back({origins[i], reachOf(instances_[i], frame), kNotDrawn});
+    }
+    instances_.resize(kept);
+    eye_ = eye;
+    frame_ = frame;
+    changedArea_ = kEverywhere;
+}
+
+bool PlanetList::patch(const SceneNode& root, const std::vector<SceneChange>& changes,
+                       const SurfaceLayerLookup& layerOf) {
+    // Each node once, as it stands now: its last entry reaches it if it still lives.
+    std::vector<SceneChange> latest(changes.rbegin(), changes.rend());
+    std::stable_sort(latest.begin(), latest.end(),
+                     [](const SceneChange& a, const SceneChange& b) { return a.key < b.key; });
+    latest.erase(
+        std::unique(latest.begin(), latest.end(),
+                    [](const SceneChange& a, const SceneChange& b) { return a.key == b.key; }),
+        latest.end());
+
+    // Everything that can fail comes first, so that a failure leaves the list untouched.
+    std::vector<PlanetInstance> comers;
+    std::vector<Entry> comerEntries;
+    for (const SceneChange& change : latest) {
+        const auto node = change.node.lock();
+        if (!node || node->parent() != &root || node->isHidden() || !node->sphere() ||
+            !(node->sphere()->radius > 0.0))
+            continue;
+        const auto instance =
+            planetInstance(*node->sphere(), root.position() + node->position() - eye_, layerOf);
+        if (!instance)
+            return false;
+        if (!showsOnScreen(*instance, frame_))
+            continue;
+        comers.push_back(*instance);
+        comerEntries.push_back(
+            {{change.key, node->siblingOrder(), 0}, reachOf(*instance, frame_), kNotDrawn});
+    }
+
+    // The changed planets' old instances go, in one pass.
+    const auto wasChanged = [&latest](const SceneNode* key) {
+        return std::binary_search(
+            latest.begin(), latest.end(), SceneChange{key, {}},
+            [](const SceneChange& a, const SceneChange& b) { return a.key < b.key; });
+    };
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < instances_.size(); ++i) {
+        if (wasChanged(entries_[i].origin.node)) {
+            changed(entries_[i].reach);
+            continue;
+        }
+        instances_[kept] = instances_[i];
+        entries_[kept++] = entries_[i];
+    }
+
+    // The new ones merge in from the back, each to its place in the order.
+    std::vector<std::size_t> order(comers.size());
+    for (std::size_t i = 0; i < order.size(); ++i)
+        order[i] = i;
+    std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+        return drawnBefore(comers[a], comerEntries[a].origin, comers[b], comerEntries[b].origin);
+    });
+    instances_.resize(kept + comers.size());
+    entries_.resize(kept + comers.size());
+    for (std::size_t to = instances_.size(), from = kept, next = order.size(); next > 0;) {
+        const std::size_t comer = order[next - 1];
+        --to;
+        if (from > 0 && drawnBefore(comers[comer], comerEntries[comer].origin, instances_[from - 1],
+                                    entries_[from - 1].origin)) {
+            --from;
+            instances_[to] = instances_[from];
+            entries_[to] = entries_[from];
+        } else {
+            --next;
+            instances_[to] = comers[comer];
+            entries_[to] = comerEntries[comer];
+        }
+    }
+    return true;
+}
+
+std::optional<PixelBox> PlanetList::takeChangedArea(const std::vector<PlanetDraw>& draws) {
+    for (const PlanetDraw& draw : draws) {
+        const std::uint8_t kind = drawnAs(draw);
+        for (std::size_t i = draw.first; i < draw.first + draw.count; ++i) {
+            if (entries_[i].drawnAs == kind)
+                continue;
+            entries_[i].drawnAs = kind;
+            changed(entries_[i].reach);
+        }
+    }
+    return std::exchange(changedArea_, std::nullopt);
+}
+
+void PlanetList::planetsIn(const PixelBox& area, const std::vector<PlanetDraw>& draws,
+                           std::vector<PlanetInstance>& instances,
+                           std::vector<PlanetDraw>& areaDraws) const {
+    instances.clear();
+    areaDraws.clear();
+    for (const PlanetDraw& draw : draws) {
+        for (std::size_t i = draw.first; i < draw.first + draw.count; ++i) {
+            if (!overlap(entries_[i].reach, area))
+                continue;
+            const bool sameDraw = !areaDraws.empty() && areaDraws.back().shape == draw.shape &&
+                                  areaDraws.back().textured == draw.textured;
+            if (sameDraw)
+                ++areaDraws.back().count;
+            else
+                areaDraws.push_back({instances.size(), 1, draw.textured, draw.shape});
+            instances.push_back(instances_[i]);
+        }
+    }
+}
+
+} // namespace orrery::render

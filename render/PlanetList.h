@@ -1,0 +1,58 @@
+#pragma once
+
+#include "core/scene/SceneChangeLog.h"
+#include "core/scene/SceneNode.h"
+#include "render/PlanetDraws.h"
+#include "render/PlanetInstances.h"
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace orrery::render {
+
+// The planets to draw, in drawing order, each with the node it comes from, the pixels it may
+// touch and how it was last drawn. Made from the whole scene, or brought up to date from the
+// scene's list of changed planets at a cost that follows the number of changes (besides a
+// few passes that only move memory), so that the picture needs drawing again only where a
+// changed planet was or is.
+class PlanetList {
+public:
+    // Every planet of the scene that shows in the frame.
+    void rebuild(const SceneNode& root, Vec3 eye, const ScreenFrame& frame,
+                 const SurfaceLayerLookup& layerOf);
+    // Redoes the planets of the changed nodes, for the eye and frame of the last rebuild.
+    // False, with the list as it was, when a changed planet needs the whole scene looked at
+    // again: a surface that `layerOf` has no layer for.
+    bool patch(const SceneNode& root, const std::vector<SceneChange>& changes,
+               const SurfaceLayerLookup& layerOf);
+
+    const std::vector<PlanetInstance>& instances() const { return instances_; }
+
+    // Takes note that the planets are drawn by `draws` (as groupPlanetDraws splits them) and
+    // returns where the picture differs from the one drawn before: where planets went, came
+    // or are drawn another way; everything after a rebuild; none when nothing changed.
+    std::optional<PixelBox> takeChangedArea(const std::vector<PlanetDraw>& draws);
+
+    // The planets of `draws` that may touch `area`, in order, and the draws for them,
+    // replacing the contents of both.
+    void planetsIn(const PixelBox& area, const std::vector<PlanetDraw>& draws,
+                   std::vector<PlanetInstance>& instances,
+                   std::vector<PlanetDraw>& areaDraws) const;
+
+private:
+    struct Entry {
+        PlanetOrigin origin;
+        PixelBox reach; // the pixels the planet may touch, edge included; unbounded: all
+        std::uint8_t drawnAs = 0;
+    };
+    void changed(const PixelBox& area);
+
+    std::vector<PlanetInstance> instances_;
+    std::vector<Entry> entries_; // beside instances_
+    Vec3 eye_;
+    ScreenFrame frame_;
+    std::optional<PixelBox> changedArea_;
+};
+
+} // namespace orrery::render
