@@ -3,18 +3,43 @@
 #include "customWin/SceneSurface.h"
 #include "customWin/screenView.h"
 
+#include <QPainter>
+#include <QTimer>
+
 namespace orrery::window {
 
 sceneView::sceneView(const screenView& backdrop, QWidget* parent)
-    : QWidget(parent), surface_(new SceneSurface(backdrop)),
-      container_(QWidget::createWindowContainer(surface_, this)) {
+    : QWidget(parent), backdrop_(backdrop), surface_(new SceneSurface(backdrop)) {
     setObjectName(QStringLiteral("sceneView"));
-    container_->setObjectName(QStringLiteral("sceneSurface"));
-    container_->setFocusPolicy(Qt::NoFocus);
     connect(surface_, &SceneSurface::planetHit, this, &sceneView::planetHit);
     connect(surface_, &SceneSurface::planetMoved, this, &sceneView::planetMoved);
     connect(surface_, &SceneSurface::framePainted, this, &sceneView::framePainted);
     connect(&backdrop, &screenView::changed, surface_, &SceneSurface::backdropChanged);
+    connect(&backdrop, &screenView::changed, this, qOverload<>(&QWidget::update));
+}
+
+sceneView::~sceneView() {
+    if (container_ == nullptr)
+        delete surface_;
+}
+
+void sceneView::showSurface() {
+    if (container_ != nullptr)
+        return;
+    container_ = QWidget::createWindowContainer(surface_, this);
+    container_->setObjectName(QStringLiteral("sceneSurface"));
+    container_->setFocusPolicy(Qt::NoFocus);
+    container_->setGeometry(rect());
+    container_->show();
+}
+
+void sceneView::paintEvent(QPaintEvent*) {
+    if (container_ != nullptr)
+        return;
+    QPainter painter(this);
+    backdrop_.paintBackdrop(painter, rect());
+    emit framePainted();
+    QTimer::singleShot(0, this, &sceneView::showSurface);
 }
 
 SceneView& sceneView::scene() {
@@ -26,7 +51,7 @@ std::optional<Image> sceneView::imageFromSceneKitView(std::string* error) {
 }
 
 QImage sceneView::grabFramebuffer() {
-    return surface_->grabFramebuffer();
+    return container_ != nullptr ? surface_->grabFramebuffer() : grab().toImage();
 }
 
 void sceneView::redraw() {
@@ -42,7 +67,10 @@ const QString& sceneView::rendererProblem() const {
 }
 
 void sceneView::resizeEvent(QResizeEvent*) {
-    container_->setGeometry(rect());
+    // The scene knows its size before its window first draws, so that a press finds planets.
+    surface_->scene().setViewSize(width(), height());
+    if (container_ != nullptr)
+        container_->setGeometry(rect());
 }
 
 } // namespace orrery::window

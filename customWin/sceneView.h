@@ -19,11 +19,14 @@ class screenView;
 // The 3D view of the document area: the planet scene drawn by the renderer over the
 // backdrop. A press on a planet selects it and a drag moves it in the plane of the screen;
 // both are reported by signals, with the planet's tsecs. The drawing happens in a window of
-// its own (SceneSurface) that this widget holds in place.
+// its own (SceneSurface) that this widget holds in place. The very first frame is the
+// backdrop alone, painted by this widget without OpenGL; the scene's window takes over right
+// after it, so that the window does not wait for OpenGL to start.
 class sceneView : public QWidget {
     Q_OBJECT
 public:
     sceneView(const screenView& backdrop, QWidget* parent);
+    ~sceneView() override;
 
     // The scene operations (planets, camera, light) and its mouse rules.
     SceneView& scene();
@@ -46,11 +49,16 @@ signals:
     void framePainted();
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    // Puts the scene's own window in place, once.
+    void showSurface();
+
+    const screenView& backdrop_;
     SceneSurface* surface_;
-    QWidget* container_;
+    QWidget* container_ = nullptr; // owns surface_ once it exists
 };
 
 } // namespace orrery::window

@@ -38,6 +38,8 @@ void FreshStart::start(Tour tour) {
         introduction->close();
     mainWindow& window = delegate_->window();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
+    // The scene's own window takes over from the first frame soon after it.
+    QVERIFY(QTest::qWaitForWindowExposed(&delegate_->sceneview().surface()));
     // The keyboard goes to the main window, unless the test keeps the tour in front; the
     // window manager hands it over in its own time.
     if (tour == Tour::close) {
