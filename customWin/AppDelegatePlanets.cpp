@@ -24,6 +24,8 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include <utility>
+
 namespace orrery::window {
 namespace {
 
@@ -164,10 +166,7 @@ void AppDelegate::openPlanetCreation() {
 void AppDelegate::closeCreationSheet() {
     if (planetAddSheet_ == nullptr)
         return;
-    PlanetAddSheet* sheet = planetAddSheet_;
-    planetAddSheet_ = nullptr;
-    disconnect(sheet, &QDialog::rejected, this, &AppDelegate::cancel3Clicked);
-    sheet->finish();
+    std::exchange(planetAddSheet_, nullptr)->finish();
     state_.isCreatePlanetOpen = false;
     loadMenuStatus();
     // What the sheet changed counts over what the menus were before it.

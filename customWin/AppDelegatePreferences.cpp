@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QTabWidget>
 
+#include <utility>
+
 namespace orrery::window {
 namespace {
 
@@ -84,10 +86,7 @@ void AppDelegate::close1pClicked() {
 void AppDelegate::endPreferences() {
     if (preferencesSheet_ == nullptr)
         return;
-    ContentSheet* sheet = preferencesSheet_;
-    preferencesSheet_ = nullptr;
-    disconnect(sheet, &QDialog::rejected, this, &AppDelegate::close1pClicked);
-    sheet->finish();
+    std::exchange(preferencesSheet_, nullptr)->finish();
     state_.isPreferencesOpen = false;
     loadMenuStatus();
 }

@@ -95,6 +95,8 @@ ContentSheet::ContentSheet(QWidget& contents, QWidget& window, QSize size, const
 
 void ContentSheet::finish() {
     constexpr int kContentsKeptMs = 500;
+    // Ended by its own buttons: hiding it is no longer a rejection to anyone.
+    disconnect(this, &QDialog::rejected, nullptr, nullptr);
     hide();
     QTimer::singleShot(kContentsKeptMs, this, &ContentSheet::releaseContents);
 }
