@@ -279,7 +279,8 @@ void AppDelegate::showOpenedCameraAndLight(const OpenedProject& project) {
 }
 
 void AppDelegate::showFailure(const QString& message, const std::string& reason) {
-    askOnSheet(*mainWindow_, message, QString::fromStdString(reason), {text("yes")}, [](int) {});
+    askOnSheet(*mainWindow_, message, QString::fromStdString(reason), {text("alertOK")},
+               [](int) {});
 }
 
 // Before the system on screen is replaced or the program ends, unsaved changes are offered
