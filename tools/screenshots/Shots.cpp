@@ -16,13 +16,20 @@ void settle() {
     QTest::qWait(400);
 }
 
-void save(const QRect& area, const QString& path) {
-    const QPixmap shot = QGuiApplication::primaryScreen()->grabWindow(0, area.x(), area.y(),
-                                                                      area.width(), area.height());
-    if (!shot.save(path))
+QPixmap grab(const QRect& area) {
+    return QGuiApplication::primaryScreen()->grabWindow(0, area.x(), area.y(), area.width(),
+                                                        area.height());
+}
+
+void save(const QPixmap& picture, const QString& path) {
+    if (!picture.save(path))
         std::fprintf(stderr, "cannot write %s\n", qPrintable(path));
     else
         std::printf("%s\n", qPrintable(path));
+}
+
+void save(const QRect& area, const QString& path) {
+    save(grab(area), path);
 }
 
 void saveWindow(QWidget& window, const QString& path, int below) {

@@ -3,6 +3,7 @@
 #include "customWin/AppDelegate.h"
 #include "customWin/tableView1/CellDelegates.h"
 
+#include <QPixmap>
 #include <QRect>
 #include <QString>
 
@@ -16,7 +17,11 @@ namespace orrery::screenshots {
 // Lets the window settle: events handled, the scene drawn, the compositor caught up.
 void settle();
 
-// Grabs a part of the screen into a file and prints the file's path.
+// A part of the screen, at the screen's device pixels.
+QPixmap grab(const QRect& area);
+// Writes a picture and prints the file's path.
+void save(const QPixmap& picture, const QString& path);
+// Grabs a part of the screen into a file.
 void save(const QRect& area, const QString& path);
 
 // The window and whatever pops up over it, `below` more pixels under it.

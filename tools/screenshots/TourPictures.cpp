@@ -20,8 +20,10 @@
 namespace orrery::screenshots {
 namespace {
 
-// The tour shows its pictures at 560 x 350; none is cut smaller, so none is enlarged.
+// The tour shows its pictures at 560 x 350; none is cut smaller, so none is enlarged. They
+// are kept at up to twice that, so that they stay sharp on a screen of scale 2.
 constexpr QSize kSmallestPicture(560, 350);
+constexpr QSize kLargestPicture = kSmallestPicture * 2;
 
 // The smallest 16:10 area of the window around `focus` and a margin, kept on the window.
 QRect aroundAt16By10(QRect focus, const QRect& window) {
@@ -52,7 +54,12 @@ public:
         QRect screen = app_.window().frameGeometry();
         if (QWidget* popup = QApplication::activePopupWidget())
             screen |= popup->frameGeometry();
-        save(aroundAt16By10(focus, screen), dir_.filePath(QLatin1String(name) + ".png"));
+        QPixmap picture = grab(aroundAt16By10(focus, screen));
+        if (picture.width() > kLargestPicture.width() ||
+            picture.height() > kLargestPicture.height())
+            picture =
+                picture.scaled(kLargestPicture, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        save(picture, dir_.filePath(QLatin1String(name) + ".png"));
     }
 
     // The visible widget of that name: the table may still hold hidden editors of rows
