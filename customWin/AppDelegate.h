@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/app/AppState.h"
+#include "core/app/TourPages.h"
 #include "core/edit/SystemEditor.h"
 #include "core/export/ExportFormat.h"
 #include "core/package/ProjectDocument.h"
@@ -19,6 +20,7 @@
 #include <memory>
 #include <optional>
 
+class QColor;
 class QLineEdit;
 class QUrl;
 class QPrinter;
@@ -206,7 +208,8 @@ private:
 
     // The tour.
     introductionWindow& tourWindow();
-    void showTourPage(int page);
+    void showTourPage(int page, const QColor& badgeColour);
+    void turnTourPage(const std::optional<TourTurn>& turn);
 
     // Menus.
     void connectMenuActions();

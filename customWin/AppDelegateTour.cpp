@@ -33,9 +33,7 @@ introductionWindow& AppDelegate::tourWindow() {
         return *introductionWindow_;
     introductionWindow_ = new introductionWindow(mainWindow_);
     introductionWindow& tour = *introductionWindow_;
-    const TourPage& first = tourPage(1);
-    tour.showPage(tourPicture(first), textWith(first.textKey, appName_),
-                  badge(1, kBadgeOrange, tour.devicePixelRatioF()), QStringLiteral("1"));
+    showTourPage(1, kBadgeOrange);
     tour.backButton7().setEnabled(false);
     connect(&tour.forwardButton7(), &QPushButton::clicked, this, &AppDelegate::forward7Clicked);
     connect(&tour.backButton7(), &QPushButton::clicked, this, &AppDelegate::back7Clicked);
@@ -56,28 +54,28 @@ void AppDelegate::openIntroduction() {
     state_.introductionWindowOpen = true;
 }
 
-void AppDelegate::showTourPage(int page) {
+void AppDelegate::showTourPage(int page, const QColor& badgeColour) {
     state_.currentPage = page;
     const TourPage& shown = tourPage(page);
     const QString description = page == 1 ? textWith(shown.textKey, appName_) : text(shown.textKey);
-    introductionWindow& tour = tourWindow();
+    introductionWindow& tour = *introductionWindow_;
     tour.showPage(tourPicture(shown), description,
-                  badge(page, shown.redBadge ? kBadgeRed : kBadgeOrange, tour.devicePixelRatioF()),
-                  QString::number(page));
+                  badge(page, badgeColour, tour.devicePixelRatioF()), QString::number(page));
+}
+
+void AppDelegate::turnTourPage(const std::optional<TourTurn>& turn) {
+    if (!turn)
+        return;
+    showTourPage(turn->page, tourPage(turn->page).redBadge ? kBadgeRed : kBadgeOrange);
+    tourWindow().setButtons(turn->buttons);
 }
 
 void AppDelegate::forward7Clicked() {
-    if (const std::optional<TourTurn> turn = tourForward(state_.currentPage)) {
-        showTourPage(turn->page);
-        tourWindow().setButtons(turn->buttons);
-    }
+    turnTourPage(tourForward(state_.currentPage));
 }
 
 void AppDelegate::back7Clicked() {
-    if (const std::optional<TourTurn> turn = tourBack(state_.currentPage)) {
-        showTourPage(turn->page);
-        tourWindow().setButtons(turn->buttons);
-    }
+    turnTourPage(tourBack(state_.currentPage));
 }
 
 // Once the box has been clicked at all, the tour stays off at later starts, whichever way
