@@ -40,39 +40,56 @@ void fold(EditStep& older, EditStep&& newer) {
                         newer.camera->second};
     if (newer.light)
         older.light = {older.light ? older.light->first : newer.light->first, newer.light->second};
+    if (newer.document)
+        older.document = {older.document ? older.document->first : newer.document->first,
+                          newer.document->second};
+}
+
+template <typename Value> bool unchanged(const std::optional<std::pair<Value, Value>>& change) {
+    return !change || change->first == change->second;
+}
+
+// A step that leaves the system as it found it. The nodes follow the records and are not
+// asked: a planet's nodes may be drawn anew without any change to the system.
+bool changesNothing(const EditStep& step) {
+    return std::all_of(step.records.begin(), step.records.end(),
+                       [](const RecordChange& c) { return c.before == c.after; }) &&
+           unchanged(step.camera) && unchanged(step.light) && unchanged(step.document);
 }
 
 } // namespace
 
 void EditHistory::touch() {
-    ++revision_;
     if (changed_)
         changed_();
 }
 
 void EditHistory::record(EditStep step) {
+    const bool merges = step.mergeKey != 0 && done_ > 0 && clean_ != done_ &&
+                        steps_[done_ - 1].mergeKey == step.mergeKey;
+    if (!merges && changesNothing(step))
+        return;
+    // The saved state among the steps about to be forgotten can never come back.
+    if (clean_ != kNoClean && clean_ > done_)
+        clean_ = kNoClean;
     steps_.erase(steps_.begin() + static_cast<std::ptrdiff_t>(done_), steps_.end());
-    if (step.mergeKey != 0 && !steps_.empty() && steps_.back().mergeKey == step.mergeKey)
+    if (merges) {
         fold(steps_.back(), std::move(step));
-    else
+        if (changesNothing(steps_.back()))
+            steps_.pop_back();
+    } else {
         steps_.push_back(std::move(step));
+    }
     done_ = steps_.size();
     touch();
-}
-
-std::optional<EditKind> EditHistory::undoKind() const {
-    return canUndo() ? std::optional(steps_[done_ - 1].kind) : std::nullopt;
-}
-
-std::optional<EditKind> EditHistory::redoKind() const {
-    return canRedo() ? std::optional(steps_[done_].kind) : std::nullopt;
 }
 
 namespace {
 
 // Takes a step back (undo) or does it again: the records in reverse order going back, so
 // that indices mean what they meant when the step was taken.
-void applyStep(const EditStep& step, bool forward, PlanetList& planets, SceneView& scene) {
+void applyStep(const EditStep& step, bool forward, PlanetList& planets, SceneView& scene,
+               DocumentSettings& document) {
     const auto from = [forward](const auto& change) -> const auto& {
         return forward ? change.before : change.after;
     };
@@ -94,24 +111,28 @@ void applyStep(const EditStep& step, bool forward, PlanetList& planets, SceneVie
         scene.setCameraState(forward ? step.camera->second : step.camera->first);
     if (step.light)
         scene.setLightState(forward ? step.light->second : step.light->first);
+    if (step.document)
+        document = forward ? step.document->second : step.document->first;
 }
 
 } // namespace
 
-const EditStep* EditHistory::undo(PlanetList& planets, SceneView& scene) {
+const EditStep* EditHistory::undo(PlanetList& planets, SceneView& scene,
+                                  DocumentSettings& document) {
     if (!canUndo())
         return nullptr;
     const EditStep& step = steps_[--done_];
-    applyStep(step, false, planets, scene);
+    applyStep(step, false, planets, scene, document);
     touch();
     return &step;
 }
 
-const EditStep* EditHistory::redo(PlanetList& planets, SceneView& scene) {
+const EditStep* EditHistory::redo(PlanetList& planets, SceneView& scene,
+                                  DocumentSettings& document) {
     if (!canRedo())
         return nullptr;
     const EditStep& step = steps_[done_++];
-    applyStep(step, true, planets, scene);
+    applyStep(step, true, planets, scene, document);
     touch();
     return &step;
 }
@@ -119,6 +140,12 @@ const EditStep* EditHistory::redo(PlanetList& planets, SceneView& scene) {
 void EditHistory::clear() {
     steps_.clear();
     done_ = 0;
+    clean_ = 0;
+    touch();
+}
+
+void EditHistory::setClean() {
+    clean_ = done_;
     touch();
 }
 

@@ -30,9 +30,9 @@ bool inRange(std::optional<std::size_t> row, const PlanetList& planets) {
 } // namespace
 
 template <typename SceneCall>
-void SystemEditor::replaceRecord(std::size_t row, PlanetRecord record, EditKind kind, int mergeKey,
+void SystemEditor::replaceRecord(std::size_t row, PlanetRecord record, PlanetKey key,
                                  SceneCall&& sceneCall) {
-    EditStep step{kind, {}, {}, {}, {}, mergeKey};
+    EditStep step{.kind = EditKind::cell, .cell = key};
     const std::string& tsecs = record.tsecs;
     step.nodes.push_back({tsecs, scene_.capturePlanet(tsecs), {}});
     step.records.push_back({row, planets_.at(row), record});
@@ -54,7 +54,7 @@ CellOutcome SystemEditor::editText(std::optional<std::size_t> row, PlanetKey key
         return CellOutcome::refused;
     if (!inRange(row, planets_))
         return CellOutcome::noRow;
-    replaceRecord(*row, rebuilt(planets_.at(*row), key, std::string(text)), EditKind::cell, 0,
+    replaceRecord(*row, rebuilt(planets_.at(*row), key, std::string(text)), key,
                   [this](const PlanetRecord& record) { updatePlanetNode(record); });
     return CellOutcome::stored;
 }
@@ -62,7 +62,7 @@ CellOutcome SystemEditor::editText(std::optional<std::size_t> row, PlanetKey key
 CellOutcome SystemEditor::editIndex(std::optional<std::size_t> row, PlanetKey key, long index) {
     if (!inRange(row, planets_))
         return CellOutcome::noRow;
-    replaceRecord(*row, rebuilt(planets_.at(*row), key, std::to_string(index)), EditKind::cell, 0,
+    replaceRecord(*row, rebuilt(planets_.at(*row), key, std::to_string(index)), key,
                   [this](const PlanetRecord& record) { updatePlanetNode(record); });
     return CellOutcome::stored;
 }
@@ -70,7 +70,7 @@ CellOutcome SystemEditor::editIndex(std::optional<std::size_t> row, PlanetKey ke
 CellOutcome SystemEditor::editColor(std::optional<std::size_t> row, Color color) {
     if (!inRange(row, planets_))
         return CellOutcome::noRow;
-    replaceRecord(*row, rebuiltWithColor(planets_.at(*row), color), EditKind::cell, 0,
+    replaceRecord(*row, rebuiltWithColor(planets_.at(*row), color), PlanetKey::color,
                   [this](const PlanetRecord& record) { updatePlanetNode(record); });
     return CellOutcome::stored;
 }
@@ -79,8 +79,8 @@ CellOutcome SystemEditor::editState(std::optional<std::size_t> row, int state) {
     if (!inRange(row, planets_))
         return CellOutcome::noRow;
     replaceRecord(
-        *row, rebuilt(planets_.at(*row), PlanetKey::state, std::to_string(state)), EditKind::cell,
-        0, [this, state](const PlanetRecord& record) { scene_.updateStatus(record.tsecs, state); });
+        *row, rebuilt(planets_.at(*row), PlanetKey::state, std::to_string(state)), PlanetKey::state,
+        [this, state](const PlanetRecord& record) { scene_.updateStatus(record.tsecs, state); });
     return CellOutcome::stored;
 }
 
@@ -101,7 +101,7 @@ std::optional<std::size_t> SystemEditor::planetDragged(std::string_view tsecs, s
         return std::nullopt;
     PlanetRecord moved =
         rebuiltWithPosition(planets_.at(*row), std::move(x), std::move(y), std::move(z));
-    EditStep step{EditKind::drag, {}, {}, {}, {}, dragTsecs_ == tsecs ? dragKey_ : 0};
+    EditStep step{.kind = EditKind::drag, .mergeKey = dragTsecs_ == tsecs ? dragKey_ : 0};
     step.records.push_back({*row, planets_.at(*row), moved});
     planets_.replace(*row, std::move(moved));
     // The scene moved the nodes before telling: their state before is the one at the press.
@@ -113,7 +113,7 @@ std::optional<std::size_t> SystemEditor::planetDragged(std::string_view tsecs, s
 }
 
 std::size_t SystemEditor::createPlanet(std::string tsecs, std::string name) {
-    EditStep step{EditKind::create, {}, {}, {}, {}, 0};
+    EditStep step{.kind = EditKind::create};
     step.nodes.push_back({tsecs, scene_.capturePlanet(tsecs), {}});
     PlanetRecord record = newPlanetRecord(tsecs, std::move(name));
     const std::size_t row = planets_.size();
@@ -130,7 +130,7 @@ bool SystemEditor::deletePlanet(std::optional<std::size_t> row) {
     if (!inRange(row, planets_))
         return false;
     const std::string tsecs = planets_.at(*row).tsecs;
-    EditStep step{EditKind::remove, {}, {}, {}, {}, 0};
+    EditStep step{.kind = EditKind::remove};
     step.records.push_back({*row, planets_.at(*row), std::nullopt});
     step.nodes.push_back({tsecs, scene_.capturePlanet(tsecs), {}});
     planets_.remove(*row);
@@ -142,7 +142,7 @@ bool SystemEditor::deletePlanet(std::optional<std::size_t> row) {
 void SystemEditor::showAll(bool shown) {
     if (planets_.empty())
         return;
-    EditStep step{EditKind::showAll, {}, {}, {}, {}, 0};
+    EditStep step{.kind = EditKind::showAll};
     const std::string state = shown ? "1" : "0";
     for (std::size_t row = 0; row < planets_.size(); ++row) {
         const PlanetRecord& before = planets_.at(row);
@@ -163,15 +163,17 @@ void SystemEditor::setCamera(double xFov, double yFov, double x, double y, doubl
     scene_.updateCamera(xFov, yFov, x, y, z, orthographic, zRange);
     if (scene_.cameraState() == before)
         return;
-    history_.record(
-        {EditKind::camera, {}, {}, std::pair(before, scene_.cameraState()), {}, mergeKey});
+    history_.record({.kind = EditKind::camera,
+                     .camera = std::pair(before, scene_.cameraState()),
+                     .mergeKey = mergeKey});
 }
 
 void SystemEditor::recordLight(const LightState& before, int mergeKey) {
     if (scene_.lightState() == before)
         return;
-    history_.record(
-        {EditKind::light, {}, {}, {}, std::pair(before, scene_.lightState()), mergeKey});
+    history_.record({.kind = EditKind::light,
+                     .light = std::pair(before, scene_.lightState()),
+                     .mergeKey = mergeKey});
 }
 
 void SystemEditor::setLightPosition(std::string_view x, std::string_view y, std::string_view z,
@@ -196,6 +198,23 @@ void SystemEditor::setLightDefault() {
     scene_.updateLight("0.0", "0.0", "100.0");
     scene_.updateLightColor(kWhite);
     recordLight(before, 0);
+}
+
+void SystemEditor::recordDocument(const DocumentSettings& before, EditKind kind, int mergeKey) {
+    history_.record({.kind = kind, .document = std::pair(before, document_), .mergeKey = mergeKey});
+}
+
+void SystemEditor::setBackground(long index) {
+    const DocumentSettings before = document_;
+    document_.background = index;
+    recordDocument(before, EditKind::background, 0);
+}
+
+void SystemEditor::setDocumentSize(std::string width, std::string height, int mergeKey) {
+    const DocumentSettings before = document_;
+    document_.width = std::move(width);
+    document_.height = std::move(height);
+    recordDocument(before, EditKind::size, mergeKey);
 }
 
 } // namespace orrery

@@ -10,8 +10,10 @@
 #include <string_view>
 
 // Every change a person makes to the system, from the table, the scene, the creation
-// sheet and the popovers: each is checked, turned into new planet records and the matching
-// scene call, and recorded for undo. The window only shows what comes of it.
+// sheet, the popovers and the document's size and background: each is checked, turned into
+// new planet records and the matching scene call, and recorded for undo. A change that
+// leaves the system as it was (Return on the same text, the same style chosen again) is
+// not recorded. The window only shows what comes of it.
 namespace orrery {
 
 enum class CellOutcome {
@@ -59,21 +61,30 @@ public:
     void setCameraDefault();
     void setLightDefault();
 
+    // The picture's size and background. Sizes come already checked; steps with the same
+    // non-zero merge key, one after another, undo as one (a resize of the window by hand).
+    const DocumentSettings& document() const { return document_; }
+    void setBackground(long index);
+    void setDocumentSize(std::string width, std::string height, int mergeKey = 0);
+    // A system opened, cleared or started: its settings, with nothing to undo.
+    void resetDocument(DocumentSettings settings) { document_ = std::move(settings); }
+
     EditHistory& history() { return history_; }
-    const EditStep* undo() { return history_.undo(planets_, scene_); }
-    const EditStep* redo() { return history_.redo(planets_, scene_); }
+    const EditStep* undo() { return history_.undo(planets_, scene_, document_); }
+    const EditStep* redo() { return history_.redo(planets_, scene_, document_); }
 
 private:
     // Replaces record `row` by `record`, runs the scene call, and records both as a step.
     template <typename SceneCall>
-    void replaceRecord(std::size_t row, PlanetRecord record, EditKind kind, int mergeKey,
-                       SceneCall&& sceneCall);
+    void replaceRecord(std::size_t row, PlanetRecord record, PlanetKey key, SceneCall&& sceneCall);
+    void recordDocument(const DocumentSettings& before, EditKind kind, int mergeKey);
     void updatePlanetNode(const PlanetRecord& record);
     void recordLight(const LightState& before, int mergeKey);
 
     PlanetList& planets_;
     SceneView& scene_;
     EditHistory history_;
+    DocumentSettings document_;
     // The dragged planet's nodes as they were at the press that started the drag.
     std::string dragTsecs_;
     std::vector<CapturedNode> dragStart_;

@@ -96,7 +96,7 @@ TEST_F(SystemEditorTest, AClickSelectsTheLastMatchADragMovesTheFirstAndUndoesAsO
     EXPECT_EQ(planets.at(0).xvalue, "0");
     for (const auto& node : nodes("100"))
         EXPECT_EQ(std::get<0>(node), 0.0);
-    EXPECT_EQ(editor.history().undoKind(), EditKind::create);
+    EXPECT_EQ(editor.history().nextUndo()->kind, EditKind::create);
 }
 
 TEST_F(SystemEditorTest, DeletingAndShowingAllUndoRecordsAndNodes) {
@@ -125,13 +125,13 @@ TEST_F(SystemEditorTest, CameraAndLightChangesUndoAndOneFieldIsOneStep) {
     editor.setCamera(60, 45, 10, 0, 500, true, true, 7);
     editor.setCamera(60, 45, 10, 0, 500, false, true, 8);
     EXPECT_EQ(scene.getCameraSettings(),
-              (std::vector<std::string>{"60.0", "45.0", "10.000000", "0.000000", "500.000000",
-                                        "0", "1"}));
+              (std::vector<std::string>{"60.0", "45.0", "10.000000", "0.000000", "500.000000", "0",
+                                        "1"}));
     editor.undo();
     editor.undo();
-    EXPECT_EQ(scene.getCameraSettings(),
-              (std::vector<std::string>{"45.0", "45.0", "0.000000", "0.000000", "500.000000",
-                                        "1", "1"}));
+    EXPECT_EQ(
+        scene.getCameraSettings(),
+        (std::vector<std::string>{"45.0", "45.0", "0.000000", "0.000000", "500.000000", "1", "1"}));
 
     editor.setLightColor({1, 0, 0, 1});
     editor.setLightPosition("5", "6", "7");
