@@ -1,11 +1,13 @@
 #include "customWin/AppDelegate.h"
 
 #include "core/app/AppPaths.h"
+#include "core/app/DocumentArea.h"
 #include "core/app/ScreenFit.h"
 #include "core/model/TextNumber.h"
 #include "core/settings/SettingsReaders.h"
 #include "customWin/PlanetCreationSheet.h"
 #include "customWin/Strings.h"
+#include "customWin/UndoKeys.h"
 #include "customWin/gradationWindow.h"
 #include "customWin/headerView.h"
 #include "customWin/introduction/introductionWindow.h"
@@ -55,6 +57,7 @@ AppDelegate::AppDelegate()
     // Start-up step 1: empty lists, full screen on offer.
     state_.canEnterFull = true;
     state_.appName = appName_.toStdString();
+    routeUndoKeys(*this);
 }
 
 AppDelegate::~AppDelegate() {
@@ -88,7 +91,13 @@ void AppDelegate::applicationWillFinishLaunching() {
     state_.appVersion = ORRERY_VERSION;
     registerWindowObservers();
     buildTitleBar();
-    showDocumentSize();
+    // The picture starts at the size of the window's document area.
+    const QSize area = mainWindow_->content().documentArea().size();
+    shownDocument_ = {area.width() - kDocumentFrame, area.height() - kDocumentFrame};
+    editor_->resetDocument(
+        {formatFixed(shownDocument_.width, 0), formatFixed(shownDocument_.height, 0), 0});
+    showDocumentFields();
+    fitDocument();
     refreshViews();
     state_.currentBackground = 0;
     state_.currentPage = 1;
@@ -112,6 +121,7 @@ void AppDelegate::populateDB0() {
 }
 
 void AppDelegate::placeMainWindow(const WindowPlacement& placement) {
+    mainWindow_->beginOwnResize();
     const std::vector<ScreenRect> screens = availableScreens();
     const ScreenRect primary = screens.empty() ? ScreenRect{0, 0, 1920, 1080} : screens.front();
     if (placement.kind == WindowPlacement::Kind::Stored) {

@@ -2,6 +2,7 @@
 
 #include "core/app/AppState.h"
 #include "core/app/TourPages.h"
+#include "core/edit/DocumentState.h"
 #include "core/edit/SystemEditor.h"
 #include "core/export/ExportFormat.h"
 #include "core/package/ProjectDocument.h"
@@ -74,8 +75,10 @@ public:
     void saveMenuStatus();
     void loadMenuStatus();
 
-    // The Scene menu.
+    // The Scene menu. A background chosen there is a change to undo; setSceneBackground
+    // only shows one.
     void hideaxesScene();
+    void chooseBackground(long index);
     void setSceneBackground(long index);
     void sceneColorAllOff();
 
@@ -125,6 +128,7 @@ public:
     void openProject1();
     void openFiles(const QStringList& paths);
     bool hasUnsavedChanges() const;
+    const DocumentState& document() const { return *document_; }
 
     // Export and printing (AppDelegateExport.cpp, AppDelegatePrint.cpp).
     void FileExport1();
@@ -169,13 +173,16 @@ private:
     void showStatus();
     void planetDeletionSelection();
     void closeCreationSheet();
-    void showHistoryStep(const EditStep* step);
+    void showHistoryStep(const EditStep* step, bool undone);
+    void refreshHistoryItems();
+    // After a command from a button or a sheet the keyboard goes back to the planets, never
+    // into a field that would take the next Return or Undo.
+    void focusTable();
 
     // Documents.
     void connectDocumentActions();
-    void noteChange();
-    void markSaved();
     void updateTitle();
+    void askToClearSystem();
     void removeAllPlanets();
     void writePackage(const QString& path, bool saveAs, std::function<void()> then);
     void openProject2(const QString& path);
@@ -228,6 +235,11 @@ private:
     void windowWillClose();
     void sizeFieldReturn(QLineEdit& field);
     void refreshViews();
+    // The document's size and background as the system holds them: in the fields, the
+    // backdrop and the window around the picture.
+    void showDocumentSettings();
+    void showDocumentFields();
+    void fitDocument();
 
     void storeFrame(const QRect& frame, char windowNumber);
 
@@ -261,10 +273,8 @@ private:
     CameraPopover* popOver5_ = nullptr;
     LightPopover* popOver4_ = nullptr;
     const QLineEdit* lastEditedField_ = nullptr;
-    QString titleBase_; // "name: package" once saved or opened, else empty
-    std::uint64_t savedHistoryRevision_ = 0;
-    std::uint64_t otherChanges_ = 0; // background and document size
-    std::uint64_t savedOtherChanges_ = 0;
+    std::unique_ptr<DocumentState> document_;
+    PixelSize shownDocument_; // the picture's size in pixels, as the document area shows it
     bool closingConfirmed_ = false;
     std::unique_ptr<QPrinter> printer_; // the print settings, kept between jobs
     int editSession_ = 0;

@@ -21,6 +21,8 @@
 #include "customWin/tableView1/PlanetTable.h"
 #include "customWin/tableView1/colorWell1_09.h"
 
+#include "core/edit/DocumentState.h"
+
 #include <QAction>
 #include <QCheckBox>
 #include <QFileInfo>
@@ -36,8 +38,8 @@ struct WorkResult {
     OpenedProject project;
 };
 
-QString packageName(const QString& path) {
-    return QFileInfo(QDir::cleanPath(path)).completeBaseName();
+QString packageName(const std::string& path) {
+    return QString::fromStdString(packageDisplayName(path));
 }
 
 } // namespace
@@ -48,38 +50,32 @@ void AppDelegate::connectDocumentActions() {
     connect(menus_.fileSave, &QAction::triggered, this, [this] { saveProject1(); });
     connect(menus_.fileSaveAs, &QAction::triggered, this, [this] { saveAsProject1(); });
     menus_.fileSave->setEnabled(false);
+    document_ = std::make_unique<DocumentState>(editor_->history());
     editor_->history().setChangeHandler([this] { updateTitle(); });
     mainWindow_->setCloseGuard([this] { return mayClose(); });
     connect(mainWindow_, &mainWindow::packagesDropped, this, &AppDelegate::openFiles);
 }
 
 bool AppDelegate::hasUnsavedChanges() const {
-    return editor_->history().revision() != savedHistoryRevision_ ||
-           otherChanges_ != savedOtherChanges_;
-}
-
-void AppDelegate::noteChange() {
-    ++otherChanges_;
-    updateTitle();
-}
-
-void AppDelegate::markSaved() {
-    savedHistoryRevision_ = editor_->history().revision();
-    savedOtherChanges_ = otherChanges_;
-    updateTitle();
+    return document_->isModified();
 }
 
 // The title label names the program and the package, with a mark while there are changes
-// that are not saved.
+// that are not saved; the Undo and Redo items name their steps.
 void AppDelegate::updateTitle() {
-    QString title = titleBase_.isEmpty() ? appName_ : titleBase_;
-    if (hasUnsavedChanges())
-        title += QLatin1Char(' ') + text("unsavedMarker");
+    const QString title = QString::fromStdString(
+        document_->title(appName_.toStdString(), text("unsavedMarker").toStdString()));
     titleLabel0_->setText(title);
     mainWindow_->setWindowTitle(title);
+    refreshHistoryItems();
 }
 
+// Unsaved changes are offered for saving first; then New asks its own question.
 void AppDelegate::createNewSystem1() {
+    askToSaveChanges([this] { askToClearSystem(); });
+}
+
+void AppDelegate::askToClearSystem() {
     if (generalSwitch(settings_.checkboxArray, 5)) {
         createNewSystem2();
         return;
@@ -105,10 +101,9 @@ void AppDelegate::createNewSystem2() {
     setCameraDefault();
     setLightDefault();
     loadMenuStatus();
-    titleBase_.clear();
-    editor_->history().clear();
-    markSaved();
+    document_->cleared();
     validateExport();
+    focusTable();
 }
 
 void AppDelegate::removeAllPlanets() {
@@ -122,12 +117,12 @@ void AppDelegate::removeAllPlanets() {
 }
 
 void AppDelegate::saveProject1(std::function<void()> then) {
-    if (state_.projectpath.empty() ||
-        !QFileInfo::exists(QString::fromStdString(state_.projectpath))) {
+    const std::string& path = document_->path();
+    if (path.empty() || !QFileInfo::exists(QString::fromStdString(path))) {
         saveAsProject1(std::move(then));
         return;
     }
-    writePackage(QString::fromStdString(state_.projectpath), false, std::move(then));
+    writePackage(QString::fromStdString(path), false, std::move(then));
 }
 
 // Save As starts in the export folder, where the pictures of the system go.
@@ -147,10 +142,10 @@ void AppDelegate::saveAsProject1(std::function<void()> then) {
 }
 
 void AppDelegate::writePackage(const QString& path, bool saveAs, std::function<void()> then) {
-    headerView& header = mainWindow_->content().header();
-    const ProjectDocument document = projectDocument(
-        sceneview().scene(), state_.planetArray, header.widthField1().text().toStdString(),
-        header.heightField1().text().toStdString(), state_.currentBackground, state_.lightColor);
+    const DocumentSettings& settings = editor_->document();
+    const ProjectDocument document =
+        projectDocument(sceneview().scene(), state_.planetArray, settings.width, settings.height,
+                        settings.background, state_.lightColor);
     const std::string target = path.toStdString();
     runWithProgress<WorkResult>(
         *mainWindow_, text("saveDocumentLabel"),
@@ -167,10 +162,8 @@ void AppDelegate::writePackage(const QString& path, bool saveAs, std::function<v
                 return;
             }
             state_.projectpath = path.toStdString();
+            document_->saved(state_.projectpath);
             menus_.fileSave->setEnabled(true);
-            if (saveAs)
-                titleBase_ = appName_ + QStringLiteral(": ") + packageName(path);
-            markSaved();
             if (then)
                 then();
         });
@@ -223,17 +216,21 @@ void AppDelegate::openProject2(const QString& path) {
         });
 }
 
+// A size that passes the reading check is shown at its own size (scaled to fit where the
+// window cannot hold it); one that fails stays in its red fields, and the picture keeps the
+// size it had.
 void AppDelegate::openProject3(const QString& path, const OpenedProject& project) {
     const auto& settings = project.settings;
+    DocumentSettings opened = editor_->document();
+    opened.width = settings[setting::width];
+    opened.height = settings[setting::height];
+    if (project.checks.background)
+        opened.background = packageBackground(project);
+    editor_->resetDocument(opened);
+    showDocumentSettings();
     headerView& header = mainWindow_->content().header();
-    header.widthField1().setText(QString::fromStdString(settings[setting::width]));
-    header.heightField1().setText(QString::fromStdString(settings[setting::height]));
     markValid(header.widthField1(), project.checks.width);
     markValid(header.heightField1(), project.checks.height);
-    if (project.checks.width && project.checks.height)
-        setTopFrame();
-    if (project.checks.background)
-        setSceneBackground(packageBackground(project));
 
     removeAllPlanets();
     applyPackageToScene(sceneview().scene(), project);
@@ -245,10 +242,9 @@ void AppDelegate::openProject3(const QString& path, const OpenedProject& project
     reloadPlanets();
 
     state_.projectpath = path.toStdString();
+    document_->opened(state_.projectpath);
     menus_.fileSave->setEnabled(true);
-    titleBase_ = appName_ + QStringLiteral(": ") + packageName(path);
-    editor_->history().clear();
-    markSaved();
+    focusTable();
 }
 
 // Values that pass are shown in the popovers' fields. A refused camera leaves the fields
@@ -284,23 +280,28 @@ void AppDelegate::showFailure(const QString& message, const std::string& reason)
 }
 
 // Before the system on screen is replaced or the program ends, unsaved changes are offered
-// for saving; `then` runs once they are saved or given up, and not at all on Cancel.
+// for saving; `then` runs once they are saved or given up, and not at all on Cancel. The
+// question names the package it would write; a system that is no package yet (never saved,
+// or cleared by New) is offered Save As, so that no package it did not name is written over.
 void AppDelegate::askToSaveChanges(std::function<void()> then) {
     if (!hasUnsavedChanges()) {
         then();
         return;
     }
     saveMenuStatus();
-    const QString name = titleBase_.isEmpty()
-                             ? text("saveDocumentFile")
-                             : packageName(QString::fromStdString(state_.projectpath));
+    const std::optional<std::string> package = document_->package();
+    const QString name = package ? packageName(*package) : text("saveDocumentFile");
+    const QString save = package ? text("saveChangesSave") : text("saveChangesSaveAs");
     askOnSheet(*mainWindow_, textWith("saveChangesMsg", name), text("saveChangesInformative"),
-               {text("saveChangesSave"), text("saveChangesDiscard"), text("saveChangesCancel")},
-               [this, then = std::move(then)](int answer) {
+               {save, text("saveChangesDiscard"), text("saveChangesCancel")},
+               [this, package, then = std::move(then)](int answer) {
                    loadMenuStatus();
-                   if (answer == kFirstButton)
-                       saveProject1(then);
-                   else if (answer == kFirstButton + 1)
+                   if (answer == kFirstButton && package &&
+                       QFileInfo::exists(QString::fromStdString(*package)))
+                       writePackage(QString::fromStdString(*package), false, then);
+                   else if (answer == kFirstButton)
+                       saveAsProject1(then);
+                   else if (answer == kSecondButton)
                        then();
                });
 }

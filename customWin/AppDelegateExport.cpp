@@ -86,7 +86,8 @@ void AppDelegate::FileExport2(bool withBackground) {
 void AppDelegate::exportPicture(const QString& path, ExportFormat format, bool withBackground,
                                 float compression) {
     std::string error;
-    const std::optional<Image> scene = sceneview().imageFromSceneKitView(&error);
+    const std::optional<Image> scene = sceneview().imageFromSceneKitView(
+        QSize(shownDocument_.width, shownDocument_.height), &error);
     if (!scene) {
         loadMenuStatus();
         showFailure(text("exportFailedMsg"), error);
@@ -101,6 +102,7 @@ void AppDelegate::exportPicture(const QString& path, ExportFormat format, bool w
         },
         [this](std::string& failure) {
             loadMenuStatus();
+            focusTable();
             if (!failure.empty())
                 showFailure(text("exportFailedMsg"), failure);
         });

@@ -31,7 +31,7 @@ void AppDelegate::connectMenuActions() {
     connect(m.sceneHideaxes, &QAction::triggered, this, &AppDelegate::hideaxesScene);
     for (std::size_t i = 0; i < m.sceneColorItems.size(); ++i)
         connect(m.sceneColorItems[i], &QAction::triggered, this,
-                [this, i] { setSceneBackground(static_cast<long>(i)); });
+                [this, i] { chooseBackground(static_cast<long>(i)); });
     connect(m.windowMinimize, &QAction::triggered, this, [] {
         if (QWidget* window = QApplication::activeWindow())
             window->showMinimized();
@@ -88,6 +88,7 @@ void AppDelegate::saveMenuStatus() {
     const std::vector<bool> now = orrery::saveMenuStatus(state_.menuArray, enabled);
     for (qsizetype i = 0; i < items.size(); ++i)
         items[i]->setEnabled(now[static_cast<std::size_t>(i)]);
+    refreshHistoryItems();
 }
 
 // Restores what the last save recorded, once: a restore without a save before it (or a
@@ -101,6 +102,7 @@ void AppDelegate::loadMenuStatus() {
     for (qsizetype i = 0; i < items.size(); ++i)
         items[i]->setEnabled(states[static_cast<std::size_t>(i)]);
     state_.menuArray.clear();
+    refreshHistoryItems();
 }
 
 // The argument of hideAxes means "show", the opposite of the new axesHiden.
@@ -116,12 +118,16 @@ void AppDelegate::hideaxesScene() {
     }
 }
 
+void AppDelegate::chooseBackground(long index) {
+    editor_->setBackground(index);
+    setSceneBackground(index);
+}
+
 void AppDelegate::setSceneBackground(long index) {
     screenview().setColor(index);
     state_.currentBackground = index;
     sceneColorAllOff();
     menus_.sceneColorItems[static_cast<std::size_t>(index)]->setChecked(true);
-    noteChange();
 }
 
 void AppDelegate::sceneColorAllOff() {

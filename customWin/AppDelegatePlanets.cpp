@@ -1,5 +1,6 @@
 // Planets: the table's cell handlers, the scene's click and drag reports, creating and
 // deleting planets, showing them all, whether there is anything to export, and undo.
+#include "core/edit/HistoryView.h"
 #include "core/export/ExportChoices.h"
 #include "core/model/Totalsecs.h"
 #include "core/settings/SettingsReaders.h"
@@ -171,6 +172,7 @@ void AppDelegate::closeCreationSheet() {
     loadMenuStatus();
     // What the sheet changed counts over what the menus were before it.
     validateExport();
+    focusTable();
 }
 
 void AppDelegate::create3Clicked() {
@@ -214,12 +216,18 @@ void AppDelegate::deletPlanet2() {
     loadMenuStatus();
     planetDeletionSelection();
     validateExport();
+    focusTable();
 }
 
 void AppDelegate::all1Clicked(bool on) {
     editor_->showAll(on);
     planetModel_->allRowsChanged();
     validateExport();
+    focusTable();
+}
+
+void AppDelegate::focusTable() {
+    tableView1_->setFocus(Qt::OtherFocusReason);
 }
 
 void AppDelegate::reloadPlanets() {
@@ -227,12 +235,15 @@ void AppDelegate::reloadPlanets() {
     validateExport();
 }
 
+// Undo and Redo take back a field's own typing first. The system's history is reached
+// only while no sheet or panel is up, as the items' enabled state says.
 void AppDelegate::undoClicked() {
     if (QLineEdit* field = focusedField(); field != nullptr && field->isUndoAvailable()) {
         field->undo();
         return;
     }
-    showHistoryStep(editor_->undo());
+    if (menus_.editUndo->isEnabled())
+        showHistoryStep(editor_->undo(), true);
 }
 
 void AppDelegate::redoClicked() {
@@ -240,14 +251,34 @@ void AppDelegate::redoClicked() {
         field->redo();
         return;
     }
-    showHistoryStep(editor_->redo());
+    if (menus_.editRedo->isEnabled())
+        showHistoryStep(editor_->redo(), false);
+}
+
+// The items name the step they would take back or do again.
+void AppDelegate::refreshHistoryItems() {
+    const bool noSheet = state_.menuArray.empty();
+    const EditHistory& history = editor_->history();
+    const std::pair<QAction*, const EditStep*> items[] = {{menus_.editUndo, history.nextUndo()},
+                                                          {menus_.editRedo, history.nextRedo()}};
+    for (const auto& [item, step] : items) {
+        const bool undo = item == menus_.editUndo;
+        item->setEnabled(noSheet && step != nullptr);
+        item->setText(step == nullptr ? text(undo ? "makeMenuEditUndo" : "makeMenuEditRedo")
+                                      : textWith(undo ? "undoStepTitle" : "redoStepTitle",
+                                                 text(std::string(stepNameKey(*step)).c_str())));
+    }
 }
 
 // After an undo or a redo: the table shows the records again, the same row selected when
-// there still is one.
-void AppDelegate::showHistoryStep(const EditStep* step) {
+// there still is one, and every control follows what the system now is.
+void AppDelegate::showHistoryStep(const EditStep* step, bool undone) {
     if (step == nullptr)
         return;
+    if (step->document)
+        showDocumentSettings();
+    if (const std::optional<bool> box = showAllBoxAfter(*step, undone))
+        planetPanel().allButton1().setChecked(*box);
     if (step->camera && state_.popover5shown)
         showCameraSettings();
     if (step->light) {
@@ -259,6 +290,7 @@ void AppDelegate::showHistoryStep(const EditStep* step) {
     planetModel_->reload();
     if (selected && *selected < state_.planetArray.size())
         tableView1_->selectRow(selected);
+    planetDeletionSelection();
     validateExport();
 }
 

@@ -18,8 +18,13 @@
 #include <QApplication>
 #include <QLineEdit>
 
+#include <limits>
+
 namespace orrery::window {
 namespace {
+
+// Every size the window's own resizing gives, one after another, is one step to undo.
+constexpr int kWindowResizeMergeKey = std::numeric_limits<int>::max();
 
 constexpr int kButtonSize = 16;
 constexpr int kButtonTop = 4; // 20 below the window's top edge, counted to the bottom
@@ -135,35 +140,73 @@ void AppDelegate::refreshViews() {
     screenview().refreshMe();
 }
 
+// After the window changed size. When the person changed it (by an edge, maximising, full
+// screen), the picture takes the document area's new size, one step to undo for a whole
+// gesture; a size the program set is only shown.
 void AppDelegate::showDocumentSize() {
-    const QSize area = mainWindow_->content().documentArea().size();
+    if (!mainWindow_->resizeIsOwn()) {
+        const QSize area = mainWindow_->content().documentArea().size();
+        const PixelSize picture{area.width() - kDocumentFrame, area.height() - kDocumentFrame};
+        editor_->setDocumentSize(formatFixed(picture.width, 0), formatFixed(picture.height, 0),
+                                 kWindowResizeMergeKey);
+        shownDocument_ = picture;
+    }
+    showDocumentFields();
+    fitDocument();
+}
+
+void AppDelegate::showDocumentFields() {
     headerView& header = mainWindow_->content().header();
-    header.widthField1().setText(
-        QString::fromStdString(formatFixed(area.width() - kDocumentFrame, 0)));
-    header.heightField1().setText(
-        QString::fromStdString(formatFixed(area.height() - kDocumentFrame, 0)));
+    const DocumentSettings& document = editor_->document();
+    header.widthField1().setText(QString::fromStdString(document.width));
+    header.heightField1().setText(QString::fromStdString(document.height));
     markValid(header.widthField1(), true);
     markValid(header.heightField1(), true);
 }
 
+// The picture in the document area: at its own size, or scaled down whole where the window
+// cannot hold it, which the header then says.
+void AppDelegate::fitDocument() {
+    topView1& area = mainWindow_->content().documentArea();
+    const QSize inside = area.size() - QSize(kDocumentFrame, kDocumentFrame);
+    const DocumentFit fit = orrery::fitDocument(shownDocument_, {inside.width(), inside.height()});
+    area.showDocumentAt(QRect(fit.left, fit.top, fit.size.width, fit.size.height));
+    mainWindow_->content().header().setScaleNote(
+        fit.percent < 100 ? textWith("documentShownScaled", QString::number(fit.percent))
+                          : QString());
+}
+
+// Return in a size field: a valid size is a change of the document, one step to undo.
 void AppDelegate::sizeFieldReturn(QLineEdit& field) {
     headerView& header = mainWindow_->content().header();
     const DocumentAxis axis =
         &field == &header.widthField1() ? DocumentAxis::width : DocumentAxis::height;
     const bool valid = checkDocumentSide(field.text().toStdString(), axis) == SideCheck::valid;
     markValid(field, valid);
-    if (valid)
-        setTopFrame();
+    if (!valid)
+        return;
+    editor_->setDocumentSize(header.widthField1().text().toStdString(),
+                             header.heightField1().text().toStdString());
+    setTopFrame();
 }
 
+// The window around the document's size; a size the window cannot hold is shown scaled.
 void AppDelegate::setTopFrame() {
-    headerView& header = mainWindow_->content().header();
-    const PixelSize window = windowSizeForDocument(
-        {static_cast<int>(integerValue(header.widthField1().text().toStdString())),
-         static_cast<int>(integerValue(header.heightField1().text().toStdString()))});
-    mainWindow_->resize(window.width, window.height);
+    if (const std::optional<PixelSize> picture = pictureSize(editor_->document()))
+        shownDocument_ = *picture;
+    const PixelSize window = windowSizeForDocument(shownDocument_);
+    mainWindow_->resizeOwn(QSize(window.width, window.height));
     refreshViews();
-    noteChange();
+    fitDocument();
+}
+
+// After an undo, a redo or an opened package: the fields, the backdrop and the window
+// show the document's settings again.
+void AppDelegate::showDocumentSettings() {
+    const DocumentSettings& document = editor_->document();
+    setSceneBackground(document.background);
+    showDocumentFields();
+    setTopFrame();
 }
 
 void AppDelegate::closeWindowClicked() {

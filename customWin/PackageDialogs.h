@@ -8,7 +8,8 @@ class QWidget;
 
 // The open and save panels for project packages, pictures and folders. A package is a
 // folder named *.kvx, which a file dialog would walk into like any folder: here entering
-// one chooses it.
+// one chooses it. A save panel's name always gets its extension, never lands inside a
+// package, and replaces what exists only once the person agreed.
 namespace orrery::window {
 
 struct PanelTexts {

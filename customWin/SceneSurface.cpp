@@ -109,7 +109,7 @@ void SceneSurface::paintGL() {
     emit framePainted();
 }
 
-std::optional<Image> SceneSurface::picture(std::string* error) {
+std::optional<Image> SceneSurface::picture(QSize size, std::string* error) {
     if (context() == nullptr) {
         if (error != nullptr)
             *error = "the scene has not been shown yet";
@@ -123,8 +123,8 @@ std::optional<Image> SceneSurface::picture(std::string* error) {
         return std::nullopt;
     }
     const qreal scale = devicePixelRatio();
-    std::optional<Image> picture = renderer_->renderImage(scene_, devicePixels(width(), scale),
-                                                          devicePixels(height(), scale), error);
+    std::optional<Image> picture = renderer_->renderImage(
+        scene_, devicePixels(size.width(), scale), devicePixels(size.height(), scale), error);
     doneCurrent();
     return picture;
 }

@@ -30,7 +30,8 @@ public:
     ~SceneSurface() override;
 
     SceneView& scene() { return scene_; }
-    std::optional<Image> picture(std::string* error);
+    // The scene at `size` points times the backing scale.
+    std::optional<Image> picture(QSize size, std::string* error);
     const QString& rendererProblem() const { return rendererProblem_; }
     // The backdrop looks different: it is handed to the renderer again and drawn.
     void backdropChanged();

@@ -38,14 +38,22 @@ QLabel* makeLabel(QWidget* parent) {
 } // namespace
 
 headerView::headerView(QWidget* parent)
-    : QWidget(parent), menuBar_(new QMenuBar(this)), sizeLabel_(makeLabel(this)),
-      width_(makeSizeField("widthField1", this)), times_(makeLabel(this)),
-      height_(makeSizeField("heightField1", this)) {
+    : QWidget(parent), menuBar_(new QMenuBar(this)), scaleNote_(makeLabel(this)),
+      sizeLabel_(makeLabel(this)), width_(makeSizeField("widthField1", this)),
+      times_(makeLabel(this)), height_(makeSizeField("heightField1", this)) {
     setObjectName(QStringLiteral("headerView"));
     menuBar_->setObjectName(QStringLiteral("menuBar"));
     menuBar_->setNativeMenuBar(false);
     sizeLabel_->setObjectName(QStringLiteral("documentSizeLabel"));
     sizeLabel_->setBuddy(width_);
+    scaleNote_->setObjectName(QStringLiteral("documentScaleNote"));
+    scaleNote_->hide();
+}
+
+void headerView::setScaleNote(const QString& note) {
+    scaleNote_->setText(note);
+    scaleNote_->setVisible(!note.isEmpty());
+    resizeEvent(nullptr);
 }
 
 void headerView::setTexts(const QString& sizeLabel, const QString& times) {
@@ -68,6 +76,11 @@ void headerView::resizeEvent(QResizeEvent*) {
     sizeLabel_->adjustSize();
     sizeLabel_->move(right - sizeLabel_->width(), (height() - sizeLabel_->height()) / 2);
     right -= sizeLabel_->width() + 2 * kGap;
+    if (!scaleNote_->text().isEmpty()) {
+        scaleNote_->adjustSize();
+        scaleNote_->move(right - scaleNote_->width(), (height() - scaleNote_->height()) / 2);
+        right -= scaleNote_->width() + 2 * kGap;
+    }
     const int barHeight = menuBar_->sizeHint().height();
     menuBar_->setGeometry(margin - 8, (height() - barHeight) / 2, std::max(0, right - margin + 8),
                           barHeight);

@@ -19,12 +19,16 @@ public:
     QLineEdit& heightField1() { return *height_; }
     // The texts of the size label and of the sign between the two fields.
     void setTexts(const QString& sizeLabel, const QString& times);
+    // Says how large the picture is shown when the window cannot show it at its size;
+    // empty when it can.
+    void setScaleNote(const QString& note);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     QMenuBar* menuBar_;
+    QLabel* scaleNote_;
     QLabel* sizeLabel_;
     QLineEdit* width_;
     QLabel* times_;

@@ -19,17 +19,29 @@ topView1::topView1(QWidget* parent)
     screen_->hide();
 }
 
+void topView1::showDocumentAt(const QRect& place) {
+    place_ = place;
+    layOutDocument();
+    update();
+}
+
 void topView1::resizeEvent(QResizeEvent*) {
+    layOutDocument();
+}
+
+void topView1::layOutDocument() {
     const int inset = kDocumentFrame / 2;
     const QRect inside = rect().adjusted(inset, inset, -inset, -inset);
-    screen_->setGeometry(inside);
-    scene_->setGeometry(inside);
+    const QRect picture = place_.isEmpty() ? inside : place_.translated(inset, inset) & inside;
+    screen_->setGeometry(picture);
+    scene_->setGeometry(picture);
 }
 
 void topView1::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(QColor(255, 255, 255, 70));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    const QRect picture = scene_->geometry();
+    painter.drawRect(picture.adjusted(-1, -1, 0, 0));
 }
 
 mainView::mainView(QWidget* parent)

@@ -14,7 +14,8 @@ class screenView;
 class sceneView;
 
 // The document area: the exported picture's size plus a 1-pixel frame on every side,
-// holding the backdrop and, exactly over it, the scene.
+// holding the backdrop and, exactly over it, the scene. A picture the window cannot hold
+// at its size is shown scaled down within it, a smaller one centred.
 class topView1 : public QWidget {
     Q_OBJECT
 public:
@@ -22,14 +23,19 @@ public:
 
     screenView& backdrop() { return *screen_; }
     sceneView& scene() { return *scene_; }
+    // Where in the area (inside its frame) the picture is shown, at its size or scaled.
+    void showDocumentAt(const QRect& place);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void layOutDocument();
+
     screenView* screen_;
     sceneView* scene_;
+    QRect place_; // empty: the whole area
 };
 
 // Everything inside the main window: the decorative background, the title strip (whose

@@ -46,11 +46,26 @@ mainWindow::mainWindow() : content_(new mainView(this)) {
     liveResize_.setSingleShot(true);
     liveResize_.setInterval(kLiveResizePauseMs);
     connect(&liveResize_, &QTimer::timeout, this, &mainWindow::liveResizeEnded);
+    ownResizeSettled_.setSingleShot(true);
+    ownResizeSettled_.setInterval(kLiveResizePauseMs);
+    connect(&ownResizeSettled_, &QTimer::timeout, this, [this] { ownResize_ = false; });
     qApp->installEventFilter(this);
     setAcceptDrops(true);
 }
 
+void mainWindow::beginOwnResize() {
+    ownResize_ = true;
+    ownResizeSettled_.start();
+}
+
+void mainWindow::resizeOwn(QSize size) {
+    beginOwnResize();
+    resize(size);
+}
+
 void mainWindow::resizeEvent(QResizeEvent* event) {
+    if (ownResize_)
+        ownResizeSettled_.start();
     QWidget::resizeEvent(event);
     emit resized();
     if (isVisible() && !isFullScreen())

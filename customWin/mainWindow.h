@@ -22,6 +22,12 @@ public:
     // Asked before the window closes; false keeps it open (the guard asks the person).
     void setCloseGuard(std::function<bool()> guard) { closeGuard_ = std::move(guard); }
 
+    // The program sizes the window itself: the size changes this brings, including the
+    // window manager's answer to it, are the program's own and not the person's.
+    void resizeOwn(QSize size);
+    void beginOwnResize();
+    bool resizeIsOwn() const { return ownResize_; }
+
 signals:
     void resized();
     // The pointer let go of the window's edge: a resize by hand has ended.
@@ -46,6 +52,8 @@ private:
 
     mainView* content_;
     QTimer liveResize_;
+    QTimer ownResizeSettled_;
+    bool ownResize_ = false;
     Qt::Edges cursorEdges_;
     bool wasFullScreen_ = false;
     std::function<bool()> closeGuard_;

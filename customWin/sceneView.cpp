@@ -46,8 +46,8 @@ SceneView& sceneView::scene() {
     return surface_->scene();
 }
 
-std::optional<Image> sceneView::imageFromSceneKitView(std::string* error) {
-    return surface_->picture(error);
+std::optional<Image> sceneView::imageFromSceneKitView(QSize size, std::string* error) {
+    return surface_->picture(size, error);
 }
 
 QImage sceneView::grabFramebuffer() {

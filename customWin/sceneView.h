@@ -31,9 +31,10 @@ public:
     // The scene operations (planets, camera, light) and its mouse rules.
     SceneView& scene();
 
-    // The view's pixels at the backing scale, top row first, straight alpha; none, with
-    // the reason in `error`, when the picture cannot be drawn.
-    std::optional<Image> imageFromSceneKitView(std::string* error = nullptr);
+    // The picture of the scene at `size` points (the document's size, which the view may
+    // show scaled) at the backing scale, top row first, straight alpha; none, with the
+    // reason in `error`, when the picture cannot be drawn.
+    std::optional<Image> imageFromSceneKitView(QSize size, std::string* error = nullptr);
     // What the window shows there now, backdrop included.
     QImage grabFramebuffer();
     // Draws the scene again at the next frame.

@@ -122,7 +122,7 @@ bool reportExports(FreshWindow& fresh) {
     std::optional<Image> scene;
     for (int run = 0; run < kRuns; ++run) {
         const Clock::time_point start = Clock::now();
-        scene = app.sceneview().imageFromSceneKitView();
+        scene = app.sceneview().imageFromSceneKitView(app.sceneview().size());
         readBacks.push_back(millisecondsSince(start));
     }
     if (!scene) {

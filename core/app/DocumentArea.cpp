@@ -3,6 +3,7 @@
 #include "core/model/TextNumber.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace orrery {
 
@@ -24,6 +25,18 @@ PixelSize windowSizeForDocument(PixelSize document) {
 PixelSize documentSizeForWindow(PixelSize window) {
     return {window.width - kDocumentFrame - kWindowExtraWidth,
             window.height - kDocumentFrame - kWindowExtraHeight};
+}
+
+DocumentFit fitDocument(PixelSize document, PixelSize area) {
+    if (document.width <= 0 || document.height <= 0)
+        return {0, 0, area, 100};
+    const double scale = std::min({1.0, static_cast<double>(area.width) / document.width,
+                                   static_cast<double>(area.height) / document.height});
+    const PixelSize shown{std::max(1, static_cast<int>(std::lround(document.width * scale))),
+                          std::max(1, static_cast<int>(std::lround(document.height * scale)))};
+    // Never 0 %: a huge document in a small window still says that it is shown.
+    const int percent = std::max(1, static_cast<int>(std::floor(scale * 100.0)));
+    return {(area.width - shown.width) / 2, (area.height - shown.height) / 2, shown, percent};
 }
 
 PixelSize minimumWindowSize() {

@@ -35,6 +35,17 @@ SideCheck checkDocumentSide(std::string_view text, DocumentAxis axis);
 PixelSize windowSizeForDocument(PixelSize document);
 PixelSize documentSizeForWindow(PixelSize window);
 
+// Where a document of this size is shown in an area of the window: at its own size and
+// centred when it fits, else scaled down to fit whole and centred. `percent` is the scale.
+struct DocumentFit {
+    int left = 0;
+    int top = 0;
+    PixelSize size;
+    int percent = 100;
+    friend bool operator==(const DocumentFit&, const DocumentFit&) = default;
+};
+DocumentFit fitDocument(PixelSize document, PixelSize area);
+
 // The smallest and largest windows, those of the smallest and largest documents.
 PixelSize minimumWindowSize();
 PixelSize maximumWindowSize();

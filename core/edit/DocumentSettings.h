@@ -1,5 +1,8 @@
 #pragma once
 
+#include "core/app/DocumentArea.h"
+
+#include <optional>
 #include <string>
 
 namespace orrery {
@@ -13,5 +16,9 @@ struct DocumentSettings {
     long background = 0;
     friend bool operator==(const DocumentSettings&, const DocumentSettings&) = default;
 };
+
+// The picture's size in pixels when both texts are sizes a package may carry (wider limits
+// than typing allows); none while a refused text stands in a field.
+std::optional<PixelSize> pictureSize(const DocumentSettings& settings);
 
 } // namespace orrery

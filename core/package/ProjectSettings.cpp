@@ -22,6 +22,18 @@ bool isSideWithin(const std::string& text, std::int64_t minExclusive) {
     return value > minExclusive && value <= kMaxSide;
 }
 
+} // namespace
+
+bool isPackageWidth(const std::string& text) {
+    return isSideWithin(text, kMinWidthExclusive);
+}
+
+bool isPackageHeight(const std::string& text) {
+    return isSideWithin(text, kMinHeightExclusive);
+}
+
+namespace {
+
 bool isBackground(const std::string& text) {
     return text.size() == 1 && text[0] >= '0' && text[0] <= '5';
 }
@@ -90,8 +102,8 @@ bool decodeProjectSettings(const std::string& bytes,
 
 ProjectChecks checkProjectSettings(const std::array<std::string, setting::readCount>& settings) {
     ProjectChecks checks;
-    checks.width = isSideWithin(settings[setting::width], kMinWidthExclusive);
-    checks.height = isSideWithin(settings[setting::height], kMinHeightExclusive);
+    checks.width = isPackageWidth(settings[setting::width]);
+    checks.height = isPackageHeight(settings[setting::height]);
     checks.background = isBackground(settings[setting::background]);
     constexpr std::size_t fov = setting::cameraXFov;
     checks.cameraFields = {validateFov(settings[fov]), validateFov(settings[fov + 1]),

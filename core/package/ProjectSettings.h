@@ -22,6 +22,11 @@ bool decodeProjectSettings(const std::string& bytes,
                            std::array<std::string, setting::readCount>& settings,
                            std::string& error);
 
+// The document sizes a package may carry: whole numbers, width 401 to 6400 and height 301
+// to 6400, wider limits than typing allows.
+bool isPackageWidth(const std::string& text);
+bool isPackageHeight(const std::string& text);
+
 // The checks opening runs on elements 0 to 12.
 ProjectChecks checkProjectSettings(const std::array<std::string, setting::readCount>& settings);
 

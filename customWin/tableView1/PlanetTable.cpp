@@ -36,9 +36,10 @@ PlanetTable::PlanetTable(PlanetTableModel& model, const CellHandlers& handlers, 
 
     setItemDelegateForColumn(0, new TextCellDelegate(handlers, this));
     setItemDelegateForColumn(1, new StateCellDelegate(handlers, this));
-    setItemDelegateForColumn(2, new ChoiceCellDelegate(MetalPopupButton::Kind::style, handlers, this));
-    setItemDelegateForColumn(3,
-                             new ChoiceCellDelegate(MetalPopupButton::Kind::surface, handlers, this));
+    setItemDelegateForColumn(2,
+                             new ChoiceCellDelegate(MetalPopupButton::Kind::style, handlers, this));
+    setItemDelegateForColumn(
+        3, new ChoiceCellDelegate(MetalPopupButton::Kind::surface, handlers, this));
     for (int column = 4; column <= 7; ++column)
         setItemDelegateForColumn(column, new TextCellDelegate(handlers, this));
     setItemDelegateForColumn(8, new ColorCellDelegate(handlers, this));
@@ -47,8 +48,10 @@ PlanetTable::PlanetTable(PlanetTableModel& model, const CellHandlers& handlers, 
         showControls();
         emit selectionChangedRows();
     });
-    // A reset or a removed row takes the editors with it.
-    connect(&model, &QAbstractItemModel::modelReset, this, [this] { controlsRow_ = -1; });
+    // The controls go before a reset, while their row still means what it meant: a reset
+    // does not take persistent editors with it, and they would stay over a row that is no
+    // longer selected, reporting to the selected one. A removed row takes its editors along.
+    connect(&model, &QAbstractItemModel::modelAboutToBeReset, this, [this] { closeControls(); });
     connect(&model, &QAbstractItemModel::rowsRemoved, this, [this] { showControls(); });
     connect(&model, &QAbstractItemModel::rowsInserted, this, [this] { showControls(); });
 }
@@ -82,13 +85,18 @@ void PlanetTable::showControls() {
     const int row = selected ? static_cast<int>(*selected) : -1;
     if (row == controlsRow_ && (row < 0 || control(PlanetColumn::name) != nullptr))
         return;
-    if (controlsRow_ >= 0 && controlsRow_ < model_.rowCount())
-        for (int column = 0; column < kPlanetColumnCount; ++column)
-            closePersistentEditor(model_.index(controlsRow_, column));
+    closeControls();
     controlsRow_ = row;
     if (row >= 0)
         for (int column = 0; column < kPlanetColumnCount; ++column)
             openPersistentEditor(model_.index(row, column));
+}
+
+void PlanetTable::closeControls() {
+    if (controlsRow_ >= 0 && controlsRow_ < model_.rowCount())
+        for (int column = 0; column < kPlanetColumnCount; ++column)
+            closePersistentEditor(model_.index(controlsRow_, column));
+    controlsRow_ = -1;
 }
 
 } // namespace orrery::window

@@ -30,6 +30,7 @@ signals:
 
 private:
     void showControls();
+    void closeControls();
 
     PlanetTableModel& model_;
     int controlsRow_ = -1;

@@ -37,15 +37,6 @@ textField1::textField1(QWidget* parent) : QLineEdit(parent) {
 }
 
 bool textField1::event(QEvent* event) {
-    // With nothing of its own to undo, the field lets Undo and Redo reach the system.
-    if (event->type() == QEvent::ShortcutOverride) {
-        auto* key = static_cast<QKeyEvent*>(event);
-        if ((key->matches(QKeySequence::Undo) && !isUndoAvailable()) ||
-            (key->matches(QKeySequence::Redo) && !isRedoAvailable())) {
-            event->ignore();
-            return true;
-        }
-    }
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         // Tab and Backtab never reach keyPressEvent: the widget would move the focus first.

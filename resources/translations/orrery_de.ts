@@ -1108,5 +1108,130 @@
         <extracomment>Address of the user guide. Defined once here so that a packager can change it.</extracomment>
         <translation>https://orrery.example.org/guide</translation>
     </message>
+    <message id="saveChangesSaveAs">
+        <source>Save As…</source>
+        <extracomment>First button of the unsaved-changes question when the system is no package yet.</extracomment>
+        <translation>Speichern unter …</translation>
+    </message>
+    <message id="replaceFileMsg">
+        <source>“%1” already exists. Do you want to replace it?</source>
+        <extracomment>Question before a save writes over an existing file or package; %1 is its name.</extracomment>
+        <translation>„%1“ ist bereits vorhanden. Möchten Sie es ersetzen?</translation>
+    </message>
+    <message id="replaceFileInformative">
+        <source>It is in the folder “%1”. Replacing it overwrites what it holds.</source>
+        <extracomment>Informative text of the replace question; %1 is the folder.</extracomment>
+        <translation>Es liegt im Ordner „%1“. Beim Ersetzen wird sein Inhalt überschrieben.</translation>
+    </message>
+    <message id="replaceFileReplace">
+        <source>Replace</source>
+        <extracomment>First button of the replace question.</extracomment>
+        <translation>Ersetzen</translation>
+    </message>
+    <message id="replaceFileCancel">
+        <source>Cancel</source>
+        <extracomment>Last button of the replace question.</extracomment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="documentShownScaled">
+        <source>Shown at %1%</source>
+        <extracomment>Beside the document size when the window cannot show the picture at its size; %1 is the scale in per cent.</extracomment>
+        <translation>Angezeigt mit %1 %</translation>
+    </message>
+    <message id="undoStepTitle">
+        <source>Undo %1</source>
+        <extracomment>Edit menu item; %1 names the change it takes back.</extracomment>
+        <translation>Rückgängig: %1</translation>
+    </message>
+    <message id="redoStepTitle">
+        <source>Redo %1</source>
+        <extracomment>Edit menu item; %1 names the change it does again.</extracomment>
+        <translation>Wiederholen: %1</translation>
+    </message>
+    <message id="stepName">
+        <source>Name</source>
+        <extracomment>Name of a change in Undo and Redo: a planet's name.</extracomment>
+        <translation>Name</translation>
+    </message>
+    <message id="stepShown">
+        <source>Visibility</source>
+        <extracomment>Name of a change in Undo and Redo: a planet shown or hidden.</extracomment>
+        <translation>Sichtbarkeit</translation>
+    </message>
+    <message id="stepStyle">
+        <source>Style</source>
+        <extracomment>Name of a change in Undo and Redo: a planet's style.</extracomment>
+        <translation>Stil</translation>
+    </message>
+    <message id="stepSurface">
+        <source>Surface</source>
+        <extracomment>Name of a change in Undo and Redo: a planet's surface.</extracomment>
+        <translation>Oberfläche</translation>
+    </message>
+    <message id="stepX">
+        <source>X Position</source>
+        <extracomment>Name of a change in Undo and Redo.</extracomment>
+        <translation>X-Position</translation>
+    </message>
+    <message id="stepY">
+        <source>Y Position</source>
+        <extracomment>Name of a change in Undo and Redo.</extracomment>
+        <translation>Y-Position</translation>
+    </message>
+    <message id="stepZ">
+        <source>Z Position</source>
+        <extracomment>Name of a change in Undo and Redo.</extracomment>
+        <translation>Z-Position</translation>
+    </message>
+    <message id="stepRadius">
+        <source>Radius</source>
+        <extracomment>Name of a change in Undo and Redo: a planet's radius.</extracomment>
+        <translation>Radius</translation>
+    </message>
+    <message id="stepColor">
+        <source>Colour</source>
+        <extracomment>Name of a change in Undo and Redo: a planet's colour.</extracomment>
+        <translation>Farbe</translation>
+    </message>
+    <message id="stepMove">
+        <source>Move Planet</source>
+        <extracomment>Name of a change in Undo and Redo: a planet dragged in the scene.</extracomment>
+        <translation>Planet verschieben</translation>
+    </message>
+    <message id="stepCreate">
+        <source>Create Planet</source>
+        <extracomment>Name of a change in Undo and Redo.</extracomment>
+        <translation>Planet erstellen</translation>
+    </message>
+    <message id="stepDelete">
+        <source>Delete Planet</source>
+        <extracomment>Name of a change in Undo and Redo.</extracomment>
+        <translation>Planet löschen</translation>
+    </message>
+    <message id="stepShowAll">
+        <source>Show All</source>
+        <extracomment>Name of a change in Undo and Redo: every planet shown or hidden.</extracomment>
+        <translation>Alle zeigen</translation>
+    </message>
+    <message id="stepCamera">
+        <source>Camera</source>
+        <extracomment>Name of a change in Undo and Redo.</extracomment>
+        <translation>Kamera</translation>
+    </message>
+    <message id="stepLight">
+        <source>Light</source>
+        <extracomment>Name of a change in Undo and Redo.</extracomment>
+        <translation>Licht</translation>
+    </message>
+    <message id="stepBackground">
+        <source>Background</source>
+        <extracomment>Name of a change in Undo and Redo: the background colour.</extracomment>
+        <translation>Hintergrund</translation>
+    </message>
+    <message id="stepSize">
+        <source>Document Size</source>
+        <extracomment>Name of a change in Undo and Redo: the picture's size.</extracomment>
+        <translation>Dokumentgröße</translation>
+    </message>
 </context>
 </TS>

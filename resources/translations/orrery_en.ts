@@ -1108,5 +1108,130 @@
         <extracomment>Address of the user guide. Defined once here so that a packager can change it.</extracomment>
         <translation>https://orrery.example.org/guide</translation>
     </message>
+    <message id="saveChangesSaveAs">
+        <source>Save As…</source>
+        <extracomment>First button of the unsaved-changes question when the system is no package yet.</extracomment>
+        <translation>Save As…</translation>
+    </message>
+    <message id="replaceFileMsg">
+        <source>“%1” already exists. Do you want to replace it?</source>
+        <extracomment>Question before a save writes over an existing file or package; %1 is its name.</extracomment>
+        <translation>“%1” already exists. Do you want to replace it?</translation>
+    </message>
+    <message id="replaceFileInformative">
+        <source>It is in the folder “%1”. Replacing it overwrites what it holds.</source>
+        <extracomment>Informative text of the replace question; %1 is the folder.</extracomment>
+        <translation>It is in the folder “%1”. Replacing it overwrites what it holds.</translation>
+    </message>
+    <message id="replaceFileReplace">
+        <source>Replace</source>
+        <extracomment>First button of the replace question.</extracomment>
+        <translation>Replace</translation>
+    </message>
+    <message id="replaceFileCancel">
+        <source>Cancel</source>
+        <extracomment>Last button of the replace question.</extracomment>
+        <translation>Cancel</translation>
+    </message>
+    <message id="documentShownScaled">
+        <source>Shown at %1%</source>
+        <extracomment>Beside the document size when the window cannot show the picture at its size; %1 is the scale in per cent.</extracomment>
+        <translation>Shown at %1%</translation>
+    </message>
+    <message id="undoStepTitle">
+        <source>Undo %1</source>
+        <extracomment>Edit menu item; %1 names the change it takes back.</extracomment>
+        <translation>Undo %1</translation>
+    </message>
+    <message id="redoStepTitle">
+        <source>Redo %1</source>
+        <extracomment>Edit menu item; %1 names the change it does again.</extracomment>
+        <translation>Redo %1</translation>
+    </message>
+    <message id="stepName">
+        <source>Name</source>
+        <extracomment>Name of a change in Undo and Redo: a planet's name.</extracomment>
+        <translation>Name</translation>
+    </message>
+    <message id="stepShown">
+        <source>Visibility</source>
+        <extracomment>Name of a change in Undo and Redo: a planet shown or hidden.</extracomment>
+        <translation>Visibility</translation>
+    </message>
+    <message id="stepStyle">
+        <source>Style</source>
+        <extracomment>Name of a change in Undo and Redo: a planet's style.</extracomment>
+        <translation>Style</translation>
+    </message>
+    <message id="stepSurface">
+        <source>Surface</source>
+        <extracomment>Name of a change in Undo and Redo: a planet's surface.</extracomment>
+        <translation>Surface</translation>
+    </message>
+    <message id="stepX">
+        <source>X Position</source>
+        <extracomment>Name of a change in Undo and Redo.</extracomment>
+        <translation>X Position</translation>
+    </message>
+    <message id="stepY">
+        <source>Y Position</source>
+        <extracomment>Name of a change in Undo and Redo.</extracomment>
+        <translation>Y Position</translation>
+    </message>
+    <message id="stepZ">
+        <source>Z Position</source>
+        <extracomment>Name of a change in Undo and Redo.</extracomment>
+        <translation>Z Position</translation>
+    </message>
+    <message id="stepRadius">
+        <source>Radius</source>
+        <extracomment>Name of a change in Undo and Redo: a planet's radius.</extracomment>
+        <translation>Radius</translation>
+    </message>
+    <message id="stepColor">
+        <source>Colour</source>
+        <extracomment>Name of a change in Undo and Redo: a planet's colour.</extracomment>
+        <translation>Colour</translation>
+    </message>
+    <message id="stepMove">
+        <source>Move Planet</source>
+        <extracomment>Name of a change in Undo and Redo: a planet dragged in the scene.</extracomment>
+        <translation>Move Planet</translation>
+    </message>
+    <message id="stepCreate">
+        <source>Create Planet</source>
+        <extracomment>Name of a change in Undo and Redo.</extracomment>
+        <translation>Create Planet</translation>
+    </message>
+    <message id="stepDelete">
+        <source>Delete Planet</source>
+        <extracomment>Name of a change in Undo and Redo.</extracomment>
+        <translation>Delete Planet</translation>
+    </message>
+    <message id="stepShowAll">
+        <source>Show All</source>
+        <extracomment>Name of a change in Undo and Redo: every planet shown or hidden.</extracomment>
+        <translation>Show All</translation>
+    </message>
+    <message id="stepCamera">
+        <source>Camera</source>
+        <extracomment>Name of a change in Undo and Redo.</extracomment>
+        <translation>Camera</translation>
+    </message>
+    <message id="stepLight">
+        <source>Light</source>
+        <extracomment>Name of a change in Undo and Redo.</extracomment>
+        <translation>Light</translation>
+    </message>
+    <message id="stepBackground">
+        <source>Background</source>
+        <extracomment>Name of a change in Undo and Redo: the background colour.</extracomment>
+        <translation>Background</translation>
+    </message>
+    <message id="stepSize">
+        <source>Document Size</source>
+        <extracomment>Name of a change in Undo and Redo: the picture's size.</extracomment>
+        <translation>Document Size</translation>
+    </message>
 </context>
 </TS>

@@ -43,7 +43,7 @@ private slots:
         delegate.editor().editIndex(0, PlanetKey::surfaceindex, 7);
         delegate.editor().setCamera(60, 45, 10, -5, 400, false, true);
         delegate.reloadPlanets();
-        delegate.setSceneBackground(4);
+        delegate.chooseBackground(4);
         const QString package = folder_.filePath(QStringLiteral("Terra.kvx"));
         saveAs(package);
         QVERIFY(!delegate.hasUnsavedChanges());

@@ -69,7 +69,7 @@ private slots:
         QVERIFY(child<QCheckBox>(*question, "includeButton1").isChecked());
         const QString jpeg = exportAs(*question, 2, 85);
 
-        const std::optional<Image> scene = app().sceneview().imageFromSceneKitView();
+        const std::optional<Image> scene = app().sceneview().imageFromSceneKitView(app().sceneview().size());
         QVERIFY(scene.has_value());
         const QString expected = folder_.filePath(QStringLiteral("expected.jpg"));
         QCOMPARE(imageio::writeImageFile(exportPicture(*scene, 2, true), expected.toStdString(),

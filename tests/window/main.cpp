@@ -24,6 +24,7 @@ int main(int argc, char** argv) {
         {"Export", makeExportTest},
         {"Preferences", makePreferencesTest},
         {"Tour", makeTourTest},
+        {"SafeEditing", makeSafeEditingTest},
         {"German", makeGermanTest}};
     const auto suite = argc > 1 ? suites.find(argv[1]) : suites.end();
     if (suite == suites.end()) {

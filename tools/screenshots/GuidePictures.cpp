@@ -73,7 +73,7 @@ void makeGuidePictures(window::AppDelegate& app, const QString& out, const QStri
     app.show1Clicked();
 
     openSystem(app, package);
-    app.setSceneBackground(3);
+    app.chooseBackground(3);
     app.tableView1().selectRow(2);
     saveWindow(window, dir.filePath(QStringLiteral("system-on-navy.png")));
 

@@ -29,5 +29,13 @@ TEST(DocumentSide, WindowIsFortyWiderAndTwoHundredSixtyTwoTallerThanTheFramedAre
     EXPECT_EQ(maximumWindowSize(), (PixelSize{2560, 1414}));
 }
 
+// Sizes a package may carry but a window may not hold: shown whole, never stretched.
+TEST(DocumentFit, SmallDocumentsSitCentredAtTheirSizeLargeOnesScaleDownWhole) {
+    EXPECT_EQ(fitDocument({610, 420}, {610, 420}), (DocumentFit{0, 0, {610, 420}, 100}));
+    EXPECT_EQ(fitDocument({401, 301}, {610, 420}), (DocumentFit{104, 59, {401, 301}, 100}));
+    EXPECT_EQ(fitDocument({6400, 6400}, {2518, 1150}), (DocumentFit{684, 0, {1150, 1150}, 17}));
+    EXPECT_EQ(fitDocument({2518, 1150}, {1259, 1150}), (DocumentFit{0, 287, {1259, 575}, 50}));
+}
+
 } // namespace
 } // namespace orrery
