@@ -24,7 +24,8 @@ int main(int argc, char** argv) {
         {"Export", makeExportTest},
         {"Preferences", makePreferencesTest},
         {"Tour", makeTourTest},
-        {"German", makeGermanTest}};
+        {"German", makeGermanTest},
+        {"WindowsAndMenus", makeWindowsAndMenusTest}};
     const auto suite = argc > 1 ? suites.find(argv[1]) : suites.end();
     if (suite == suites.end()) {
         std::fprintf(stderr, "usage: %s SUITE [Qt Test options]\n", argv[0]);
