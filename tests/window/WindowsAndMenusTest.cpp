@@ -17,6 +17,8 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include <functional>
+
 namespace orrery::window::testing {
 namespace {
 
