@@ -5,6 +5,7 @@
 #include "core/app/ScreenFit.h"
 #include "core/model/TextNumber.h"
 #include "core/settings/SettingsReaders.h"
+#include "customWin/DesktopScreens.h"
 #include "customWin/PlanetCreationSheet.h"
 #include "customWin/Strings.h"
 #include "customWin/UndoKeys.h"
@@ -19,36 +20,12 @@
 #include "customWin/searchWindow.h"
 #include "customWin/tableView1/PlanetTable.h"
 
-#include <QGuiApplication>
 #include <QLineEdit>
 #include <QPrinter>
-#include <QScreen>
 
 #include <filesystem>
 
 namespace orrery::window {
-namespace {
-
-ScreenRect toScreenRect(const QRect& rect) {
-    return {rect.left(), rect.top(), rect.width(), rect.height()};
-}
-
-QRect toQRect(const ScreenRect& rect) {
-    return {rect.left, rect.top, rect.width, rect.height};
-}
-
-// The available areas of the screens there are today, the primary one first.
-std::vector<ScreenRect> availableScreens() {
-    std::vector<ScreenRect> screens;
-    if (QScreen* primary = QGuiApplication::primaryScreen())
-        screens.push_back(toScreenRect(primary->availableGeometry()));
-    for (QScreen* screen : QGuiApplication::screens())
-        if (screen != QGuiApplication::primaryScreen())
-            screens.push_back(toScreenRect(screen->availableGeometry()));
-    return screens;
-}
-
-} // namespace
 
 AppDelegate::AppDelegate()
     : appName_(QString::fromStdString(appNameFromExecutable())),
@@ -125,21 +102,15 @@ void AppDelegate::placeMainWindow(const WindowPlacement& placement) {
     const std::vector<ScreenRect> screens = availableScreens();
     const ScreenRect primary = screens.empty() ? ScreenRect{0, 0, 1920, 1080} : screens.front();
     if (placement.kind == WindowPlacement::Kind::Stored) {
-        const WindowFrame& stored = placement.main;
+        const ScreenRect& stored = placement.main;
         const QSize size = QSize(stored.width, stored.height)
                                .expandedTo(mainWindow_->minimumSize())
                                .boundedTo(mainWindow_->maximumSize());
         const ScreenRect frame =
             bringOntoScreens({stored.left, stored.top, size.width(), size.height()}, screens);
         mainWindow_->setGeometry(toQRect(frame));
-        state_.gWidth = placement.gradation.width;
-        state_.gHeight = placement.gradation.height;
-        state_.gLeft = placement.gradation.left;
-        state_.gTop = placement.gradation.top;
-        state_.sWidth = placement.search.width;
-        state_.sHeight = placement.search.height;
-        state_.sLeft = placement.search.left;
-        state_.sTop = placement.search.top;
+        state_.gradationFrame = placement.gradation;
+        state_.searchFrame = placement.search;
         return;
     }
     const PixelSize window = windowSizeForDocument(firstDocumentSize(primary));
@@ -153,6 +124,7 @@ void AppDelegate::makeNSControls() {
     makeNSMenu(menus_, appName_);
     connectMenuActions();
     buildPlanetPanel();
+    followSelectionInFindMenu();
     buildPopovers();
     connectDocumentActions();
     mainWindow_->content().header().setTexts(text("documentSizeLabel"), text("documentSizeTimes"));

@@ -31,6 +31,7 @@ namespace orrery::window {
 class CameraPopover;
 class ContentSheet;
 class FolderChoice;
+class FramedWindow;
 class ImageButton;
 class LightPopover;
 class PlanetAddSheet;
@@ -220,6 +221,7 @@ private:
 
     // Menus.
     void connectMenuActions();
+    void followSelectionInFindMenu();
     void askToOpenPage(const QString& question, const QUrl& page);
     void showAbout();
 
@@ -243,13 +245,11 @@ private:
 
     void storeFrame(const QRect& frame, char windowNumber);
 
-    // Secondary windows (AppDelegateSecondary.cpp).
-    void gradationSaveFrame();
-    void searchSaveFrame();
-    void gradationWillClose();
-    void searchWillClose();
-    // Keeps a closing secondary window's frame for its next opening.
-    static void keepFrame(const QWidget& window, int& width, int& height, int& left, int& top);
+    // Secondary windows (AppDelegateSecondary.cpp): both keep their frames alike, each in
+    // its own state and row of table Windows.
+    void rememberFrame(FramedWindow& window, ScreenRect& lastFrame, bool& isOpen,
+                       char windowNumber);
+    void showSecondaryWindow(FramedWindow& window, const ScreenRect& lastFrame, bool& isOpen);
 
     QString appName_;
     AppState state_;

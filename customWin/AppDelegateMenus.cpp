@@ -9,6 +9,7 @@
 #include "customWin/mainWindow.h"
 #include "customWin/screenView.h"
 #include "customWin/searchWindow.h"
+#include "customWin/tableView1/PlanetTable.h"
 #include "resources/Artwork.h"
 
 #include <QAction>
@@ -70,6 +71,11 @@ void AppDelegate::connectMenuActions() {
         if (!selected.isEmpty())
             searchWindow_->setSearchText(selected);
     });
+    connect(m.editFindjump, &QAction::triggered, this, [this] {
+        if (const auto row = tableView1_->selectedRow())
+            tableView1_->scrollTo(planetModel_->index(static_cast<int>(*row), 0),
+                                  QAbstractItemView::PositionAtCenter);
+    });
     connect(m.editUndo, &QAction::triggered, this, &AppDelegate::undoClicked);
     connect(m.editRedo, &QAction::triggered, this, &AppDelegate::redoClicked);
     connect(m.planetCreate, &QAction::triggered, this, &AppDelegate::openPlanetCreation);
@@ -78,6 +84,16 @@ void AppDelegate::connectMenuActions() {
     connect(m.filePrint, &QAction::triggered, this, &AppDelegate::printPlain);
     connect(m.filePrintsetup, &QAction::triggered, this, &AppDelegate::pageSetup);
     connect(m.appPreferences, &QAction::triggered, this, &AppDelegate::openPreferences);
+}
+
+// Jump to Selection is live exactly while a row is selected; a new or opened system clears
+// the selection without a word, so its reset counts too.
+void AppDelegate::followSelectionInFindMenu() {
+    const auto follow = [this] {
+        menus_.editFindjump->setEnabled(tableView1_->selectedRow().has_value());
+    };
+    connect(tableView1_, &PlanetTable::selectionChangedRows, this, follow);
+    connect(planetModel_, &QAbstractItemModel::modelReset, this, follow);
 }
 
 void AppDelegate::saveMenuStatus() {

@@ -226,13 +226,13 @@ void AppDelegate::maximizeWindowClicked() {
         mainWindow_->showMaximized();
 }
 
+// The chrome follows the window's state (windowDidEnterFullscreen), so that full screen asked
+// for by the window manager's own key looks as full screen asked for here.
 void AppDelegate::fullWindowClicked() {
-    if (mainWindow_->isFullScreen()) {
+    if (mainWindow_->isFullScreen())
         mainWindow_->showNormal();
-        return;
-    }
-    windowWillEnterFullscreen();
-    mainWindow_->showFullScreen();
+    else
+        mainWindow_->showFullScreen();
 }
 
 void AppDelegate::windowWillEnterFullscreen() {
@@ -244,6 +244,8 @@ void AppDelegate::windowWillEnterFullscreen() {
 }
 
 void AppDelegate::windowDidEnterFullscreen() {
+    if (!state_.enteringFull)
+        windowWillEnterFullscreen();
     mainWindow_->content().update();
     refreshViews();
     showDocumentSize();

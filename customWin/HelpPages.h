@@ -2,14 +2,13 @@
 
 #include <QUrl>
 
+// The help pages ship with the program and open offline: the installed copy in the share
+// folder beside the executable's, else the one of the tree the program was built from.
 namespace orrery::window {
 
-// The user guide ships with the program and opens offline: the installed copy beside the
-// executable's share folder, else the one in the source tree the program was built from.
 QUrl userGuideAddress();
 
-// The support page, whose address is a text of the strings resource so that a packager
-// can change it in one place.
+// How to report a problem, where the settings and messages go, and the version.
 QUrl supportPageAddress();
 
 } // namespace orrery::window

@@ -63,9 +63,15 @@ void buildEditMenu(QMenuBar& bar, MenuItems& m) {
     m.editMenu->addSeparator();
     m.editFind = addSubmenu(*m.editMenu, "editFind");
     m.editFindfind = addItem(*m.editFind, "editFindfind", QKeySequence::Find);
+    // A planet is renamed in its row of the table, which Find takes the person to; there is
+    // no text to replace across planets, and the item says so by staying grey.
+    m.editFindreplace = addItem(*m.editFind, "editFindreplace");
+    m.editFindreplace->setEnabled(false);
     m.editFindnext = addItem(*m.editFind, "editFindnext", QKeySequence::FindNext);
     m.editFindprev = addItem(*m.editFind, "editFindprev", QKeySequence::FindPrevious);
     m.editFinduseselect = addItem(*m.editFind, "editFinduseselect");
+    m.editFindjump = addItem(*m.editFind, "editFindjump", QKeySequence(QStringLiteral("Ctrl+J")));
+    m.editFindjump->setEnabled(false);
     m.editTransform = addSubmenu(*m.editMenu, "editTransform");
     m.editTransupper = addItem(*m.editTransform, "editTransupper");
     m.editTranslower = addItem(*m.editTransform, "editTranslower");
@@ -201,9 +207,11 @@ void makeNSMenu(const MenuItems& m, const QString& appName) {
         {m.editDelete, "makeMenuEditDelete"},
         {m.editSelectall, "makeMenuEditSelectall"},
         {m.editFindfind, "makeMenuEditFindFind"},
+        {m.editFindreplace, "makeMenuEditFindReplace"},
         {m.editFindnext, "makeMenuEditFindNext"},
         {m.editFindprev, "makeMenuEditFindPrev"},
         {m.editFinduseselect, "makeMenuEditFindUseselect"},
+        {m.editFindjump, "makeMenuEditFindJump"},
         {m.editTransupper, "makeMenuEditTransformUpp"},
         {m.editTranslower, "makeMenuEditTransformLow"},
         {m.editTranscapital, "makeMenuEditTransformCap"},

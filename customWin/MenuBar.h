@@ -46,9 +46,11 @@ struct MenuItems {
     QAction* editSelectall = nullptr;
     QMenu* editFind = nullptr;
     QAction* editFindfind = nullptr;
+    QAction* editFindreplace = nullptr; // no replacing here: shown, never enabled
     QAction* editFindnext = nullptr;
     QAction* editFindprev = nullptr;
     QAction* editFinduseselect = nullptr;
+    QAction* editFindjump = nullptr;
     QMenu* editTransform = nullptr;
     QAction* editTransupper = nullptr;
     QAction* editTranslower = nullptr;

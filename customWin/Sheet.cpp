@@ -101,9 +101,13 @@ void ContentSheet::finish() {
     QTimer::singleShot(kContentsKeptMs, this, &ContentSheet::releaseContents);
 }
 
+// The contents may already hang in a newer sheet, opened within the half second: that sheet
+// keeps them, and only this sheet's own view goes.
 void ContentSheet::releaseContents() {
-    contents_.hide();
-    contents_.setParent(nullptr);
+    if (contents_.parentWidget() == view_) {
+        contents_.hide();
+        contents_.setParent(nullptr);
+    }
     delete view_;
     view_ = nullptr;
     deleteLater();

@@ -39,7 +39,7 @@ public:
     ContentSheet(QWidget& contents, QWidget& window, QSize size, const QString& sheetName,
                  const QString& viewName);
     // Hides the sheet; half a second later (so that its closing is drawn whole) the contents
-    // are taken back out and the sheet goes.
+    // are taken back out, unless a new sheet has taken them meanwhile, and the sheet goes.
     void finish();
 
 private:

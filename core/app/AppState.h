@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/app/ScreenRect.h"
 #include "core/model/Color.h"
 #include "core/model/PlanetList.h"
 
@@ -26,8 +27,8 @@ struct AppState {
     bool isCreatePlanetOpen = false;
     bool isGradationOpen = false;
     bool isSearchOpen = false;
-    int gWidth = 0, gHeight = 0, gLeft = 0, gTop = 0; // last frame of the gradation window
-    int sWidth = 0, sHeight = 0, sLeft = 0, sTop = 0; // last frame of the search window
+    ScreenRect gradationFrame; // last frame of the gradation window (Windows row 1)
+    ScreenRect searchFrame;    // last frame of the search window (Windows row 2)
     bool introductionWindowOpen = false;
     int currentPage = 1;
     long currentBackground = 0;

@@ -11,6 +11,9 @@ constexpr int kTitleStrip = 28;
 constexpr int kGraspableWidth = 100;
 constexpr int kFirstWidth = 960;
 constexpr int kFirstHeight = 540;
+// A secondary window's first place: inside the main window's right edge, below its title.
+constexpr int kSecondaryInset = 40;
+constexpr int kSecondaryDrop = 80;
 
 int overlap(int start0, int length0, int start1, int length1) {
     return std::max(0, std::min(start0 + length0, start1 + length1) - std::max(start0, start1));
@@ -33,15 +36,24 @@ ScreenRect bringOntoScreens(const ScreenRect& frame, const std::vector<ScreenRec
             return frame;
     }
     const ScreenRect& primary = screens.front();
-    return centredOn(primary, {std::min(frame.width, primary.width),
-                               std::min(frame.height, primary.height)});
+    return centredOn(
+        primary, {std::min(frame.width, primary.width), std::min(frame.height, primary.height)});
+}
+
+ScreenRect secondaryWindowFrame(const ScreenRect& last, PixelSize size, const ScreenRect& main,
+                                const std::vector<ScreenRect>& screens) {
+    const ScreenRect frame = last.hasSize()
+                                 ? last
+                                 : ScreenRect{main.left + main.width - size.width - kSecondaryInset,
+                                              main.top + kSecondaryDrop, size.width, size.height};
+    return bringOntoScreens(frame, screens);
 }
 
 PixelSize firstDocumentSize(const ScreenRect& screen) {
     const PixelSize room = documentSizeForWindow({screen.width, screen.height});
-    return {std::clamp(std::min(kFirstWidth, room.width), kDocumentWidthMin, kDocumentWidthMax),
-            std::clamp(std::min(kFirstHeight, room.height), kDocumentHeightMin,
-                       kDocumentHeightMax)};
+    return {
+        std::clamp(std::min(kFirstWidth, room.width), kDocumentWidthMin, kDocumentWidthMax),
+        std::clamp(std::min(kFirstHeight, room.height), kDocumentHeightMin, kDocumentHeightMax)};
 }
 
 } // namespace orrery

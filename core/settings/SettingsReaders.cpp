@@ -33,9 +33,14 @@ int truncatedFloat(const std::vector<std::string>& list, std::size_t position) {
     return static_cast<int>(value);
 }
 
-WindowFrame frameAt(const std::vector<std::string>& windows, std::size_t first) {
-    return {truncatedFloat(windows, first), truncatedFloat(windows, first + 1),
-            truncatedFloat(windows, first + 2), truncatedFloat(windows, first + 3)};
+// A frame as table Windows keeps it: width, height, left, top.
+ScreenRect frameAt(const std::vector<std::string>& windows, std::size_t first) {
+    ScreenRect frame;
+    frame.width = truncatedFloat(windows, first);
+    frame.height = truncatedFloat(windows, first + 1);
+    frame.left = truncatedFloat(windows, first + 2);
+    frame.top = truncatedFloat(windows, first + 3);
+    return frame;
 }
 
 } // namespace
@@ -90,7 +95,7 @@ WindowPlacement mainWindowPlacement(bool windowsFileExists, const std::vector<st
     placement.search = frameAt(windows, 8);
     if (alwaysCentre)
         placement.kind = WindowPlacement::Kind::Centre;
-    else if (placement.main.width <= 0 || placement.main.height <= 0)
+    else if (!placement.main.hasSize())
         placement.kind = WindowPlacement::Kind::CentreAndStore;
     else
         placement.kind = WindowPlacement::Kind::Stored;

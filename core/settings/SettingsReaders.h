@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/app/ScreenRect.h"
+
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -32,18 +34,13 @@ int compressionPercent(const std::vector<std::string>& preferences);
 // General 0 to 11: the twelve general switches, by number 1 to 12.
 bool generalSwitch(const std::vector<std::string>& general, int number);
 
-// Where the main window goes at start, from the first eight Windows values.
-struct WindowFrame {
-    int width = 0;
-    int height = 0;
-    int left = 0;
-    int top = 0;
-};
+// Where the main window goes at start, and the frames the secondary windows had, from the
+// Windows values (Width, Height, Left, Top of windows 0, 1 and 2).
 struct WindowPlacement {
     enum class Kind { Centre, CentreAndStore, Stored } kind = Kind::Centre;
-    WindowFrame main;
-    WindowFrame gradation;
-    WindowFrame search;
+    ScreenRect main;
+    ScreenRect gradation;
+    ScreenRect search;
 };
 WindowPlacement mainWindowPlacement(bool windowsFileExists, const std::vector<std::string>& windows,
                                     bool alwaysCentre);

@@ -180,7 +180,7 @@
     </message>
     <message id="makeMenuEditFindReplace">
         <source>Find and Replace…</source>
-        <extracomment>Edit ▸ Find submenu.</extracomment>
+        <extracomment>Edit ▸ Find submenu. Always greyed out: planets are renamed in their table row.</extracomment>
         <translation>Suchen und ersetzen …</translation>
     </message>
     <message id="makeMenuEditFindNext">
@@ -200,7 +200,7 @@
     </message>
     <message id="makeMenuEditFindJump">
         <source>Jump to Selection</source>
-        <extracomment>Edit ▸ Find submenu.</extracomment>
+        <extracomment>Edit ▸ Find submenu: scrolls the planet table to the selected planet.</extracomment>
         <translation>Zur Auswahl springen</translation>
     </message>
     <message id="makeMenuEditSpellShow">
@@ -359,9 +359,9 @@
         <translation>Benutzerhandbuch …</translation>
     </message>
     <message id="makeMenuHelpSupport">
-        <source>Support Website…</source>
-        <extracomment>Help menu: asks, then opens the support page in the web browser.</extracomment>
-        <translation>Support-Website …</translation>
+        <source>Support…</source>
+        <extracomment>Help menu: asks, then opens the support page that comes with the program in the web browser.</extracomment>
+        <translation>Support …</translation>
     </message>
     <message id="makeMenuHelpAbout">
         <source>About %1</source>
@@ -392,9 +392,9 @@
         <translation>Möchten Sie das Benutzerhandbuch in Ihrem Webbrowser öffnen?</translation>
     </message>
     <message id="access website">
-        <source>Do you want to open the support website in your web browser?</source>
+        <source>Do you want to open the support page in your web browser?</source>
         <extracomment>Question before the support page opens.</extracomment>
-        <translation>Möchten Sie die Support-Website in Ihrem Webbrowser öffnen?</translation>
+        <translation>Möchten Sie die Support-Seite in Ihrem Webbrowser öffnen?</translation>
     </message>
     <message id="yes">
         <source>Yes</source>
@@ -405,11 +405,6 @@
         <source>Cancel</source>
         <extracomment>Second button of the help questions.</extracomment>
         <translation>Abbrechen</translation>
-    </message>
-    <message id="supportPageAddress">
-        <source>https://orrery.example.org/support</source>
-        <extracomment>Address of the support page. Defined once here so that a packager can change it; translate only to point at a page in the user's language.</extracomment>
-        <translation>https://orrery.example.org/support</translation>
     </message>
     <message id="aboutText">
         <source>Orrery %1 — compose planet systems and export pictures of them.</source>

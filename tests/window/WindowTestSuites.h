@@ -20,5 +20,6 @@ std::unique_ptr<QObject> makeGermanTest();
 std::unique_ptr<QObject> makePreferencesTest();
 std::unique_ptr<QObject> makeTourTest();
 std::unique_ptr<QObject> makeSafeEditingTest();
+std::unique_ptr<QObject> makeWindowsAndMenusTest();
 
 } // namespace orrery::window::testing

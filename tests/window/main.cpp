@@ -25,7 +25,8 @@ int main(int argc, char** argv) {
         {"Preferences", makePreferencesTest},
         {"Tour", makeTourTest},
         {"SafeEditing", makeSafeEditingTest},
-        {"German", makeGermanTest}};
+        {"German", makeGermanTest},
+        {"WindowsAndMenus", makeWindowsAndMenusTest}};
     const auto suite = argc > 1 ? suites.find(argv[1]) : suites.end();
     if (suite == suites.end()) {
         std::fprintf(stderr, "usage: %s SUITE [Qt Test options]\n", argv[0]);

@@ -35,6 +35,19 @@ TEST(ScreenFit, AFrameOffEveryScreenComesBackOntoThePrimaryOne) {
     EXPECT_EQ(bringOntoScreens({-5000, 0, 2560, 1414}, screens), kLeftScreen);
 }
 
+TEST(ScreenFit, ASecondaryWindowOpensWhereItWasOrFirstInsideTheMainWindow) {
+    const std::vector<ScreenRect> screens{kLeftScreen, kRightScreen};
+    const ScreenRect main{459, 138, 1002, 804};
+    // Never placed: at its own size, 40 inside the main window's right edge, below its title.
+    EXPECT_EQ(secondaryWindowFrame({}, {322, 385}, main, screens),
+              (ScreenRect{1099, 218, 322, 385}));
+    const ScreenRect last{2100, 300, 360, 445};
+    EXPECT_EQ(secondaryWindowFrame(last, {322, 385}, main, screens), last);
+    // Last time on a screen that is gone now.
+    EXPECT_EQ(secondaryWindowFrame(last, {322, 385}, main, {kLeftScreen}),
+              (ScreenRect{780, 317, 360, 445}));
+}
+
 TEST(ScreenFit, FirstStartShowsTheLargestDocumentUpTo960By540ThatFits) {
     EXPECT_EQ(firstDocumentSize({0, 0, 1920, 1080}), (PixelSize{960, 540}));
     EXPECT_EQ(firstDocumentSize({0, 0, 1002, 804}), (PixelSize{960, 540}));
