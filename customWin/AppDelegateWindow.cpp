@@ -17,6 +17,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QScreen>
 
 #include <limits>
 
@@ -195,7 +196,17 @@ void AppDelegate::setTopFrame() {
     if (const std::optional<PixelSize> picture = pictureSize(editor_->document()))
         shownDocument_ = *picture;
     const PixelSize window = windowSizeForDocument(shownDocument_);
-    mainWindow_->resizeOwn(QSize(window.width, window.height));
+    QRect frame(mainWindow_->pos(), QSize(window.width, window.height));
+    // Never beyond the screen: the picture is shown scaled within what fits.
+    if (const QScreen* screen = mainWindow_->screen()) {
+        const QRect available = screen->availableGeometry();
+        frame.setSize(frame.size().boundedTo(available.size()));
+        frame.moveRight(std::min(frame.right(), available.right()));
+        frame.moveBottom(std::min(frame.bottom(), available.bottom()));
+        if (frame.topLeft() != mainWindow_->pos())
+            mainWindow_->move(frame.topLeft());
+    }
+    mainWindow_->resizeOwn(frame.size());
     refreshViews();
     fitDocument();
 }

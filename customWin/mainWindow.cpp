@@ -110,7 +110,12 @@ void mainWindow::dropEvent(QDropEvent* event) {
 
 void mainWindow::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
-    if (event->type() != QEvent::WindowStateChange || isFullScreen() == wasFullScreen_)
+    if (event->type() != QEvent::WindowStateChange)
+        return;
+    // Maximising, full screen and back are the person's, whatever the program did before.
+    ownResize_ = false;
+    ownResizeSettled_.stop();
+    if (isFullScreen() == wasFullScreen_)
         return;
     wasFullScreen_ = isFullScreen();
     if (wasFullScreen_)
