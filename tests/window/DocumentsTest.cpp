@@ -16,22 +16,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 
 namespace orrery::window::testing {
-namespace {
-
-QByteArray runOrrery(const QStringList& arguments) {
-    QProcess orrery;
-    orrery.start(QStringLiteral(ORRERY_EXECUTABLE), arguments);
-    orrery.waitForFinished(30000);
-    return orrery.readAllStandardOutput();
-}
-
-} // namespace
 
 class DocumentsTest : public FreshWindowSuite {
     Q_OBJECT

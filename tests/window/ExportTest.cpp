@@ -19,14 +19,6 @@
 #include <QTest>
 
 namespace orrery::window::testing {
-namespace {
-
-QByteArray contents(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-} // namespace
 
 class ExportTest : public FreshWindowSuite {
     Q_OBJECT
@@ -69,7 +61,8 @@ private slots:
         QVERIFY(child<QCheckBox>(*question, "includeButton1").isChecked());
         const QString jpeg = exportAs(*question, 2, 85);
 
-        const std::optional<Image> scene = app().sceneview().imageFromSceneKitView(app().sceneview().size());
+        const std::optional<Image> scene =
+            app().sceneview().imageFromSceneKitView(app().sceneview().size());
         QVERIFY(scene.has_value());
         const QString expected = folder_.filePath(QStringLiteral("expected.jpg"));
         QCOMPARE(imageio::writeImageFile(exportPicture(*scene, 2, true), expected.toStdString(),

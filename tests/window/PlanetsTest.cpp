@@ -59,18 +59,18 @@ private slots:
         QVERIFY(child<QPushButton>(app().window(), "deletePlanetButton1").isEnabled());
         auto* radius = qobject_cast<QLineEdit*>(table.control(PlanetColumn::radius));
         QVERIFY(radius != nullptr);
-        type(*radius, "0.09", Qt::Key_Return);
+        typeInto(*radius, "0.09", Qt::Key_Return);
         QVERIFY(child<QLabel>(app().window(), "statusLabel1").isVisible());
         QCOMPARE(record(0).radius, std::string("24"));
         QCOMPARE(radius->text(), QStringLiteral("0.09"));
-        type(*radius, "0.1", Qt::Key_Return);
+        typeInto(*radius, "0.1", Qt::Key_Return);
         QCOMPARE(record(0).radius, std::string("0.1"));
         // The row stays selected, but Delete is off until the selection changes.
         QCOMPARE(table.selectedRow(), std::optional<std::size_t>(0));
         QVERIFY(!child<QPushButton>(app().window(), "deletePlanetButton1").isEnabled());
 
         auto* name = qobject_cast<QLineEdit*>(table.control(PlanetColumn::name));
-        type(*name, "Vesta", Qt::Key_Tab);
+        typeInto(*name, "Vesta", Qt::Key_Tab);
         QCOMPARE(record(0).name, std::string("Vesta"));
         QCOMPARE(QApplication::focusWidget(), name);
         QTRY_VERIFY(!child<QLabel>(app().window(), "statusLabel1").isVisible());
@@ -126,7 +126,7 @@ private slots:
         sceneView& scene = app().sceneview();
         app().tableView1().selectRow(0);
         auto* x = qobject_cast<QLineEdit*>(app().tableView1().control(PlanetColumn::x));
-        type(*x, "-200", Qt::Key_Return);
+        typeInto(*x, "-200", Qt::Key_Return);
         const QPoint centre(scene.width() / 2, scene.height() / 2);
         QTest::mousePress(&scene.surface(), Qt::LeftButton, {}, centre);
         QCOMPARE(app().tableView1().selectedRow(), std::optional<std::size_t>(1));
@@ -149,13 +149,6 @@ private slots:
 
 private:
     const PlanetRecord& record(std::size_t row) { return app().state().planetArray.at(row); }
-
-    void type(QLineEdit& field, const char* text, Qt::Key command) {
-        field.setFocus();
-        field.selectAll();
-        QTest::keyClicks(&field, QLatin1String(text));
-        QTest::keyClick(&field, command);
-    }
 
     // Planets with distinct identities, as if made a second apart.
     void createPlanets(int count) {

@@ -4,6 +4,7 @@
 #include "tests/window/WindowTestSuites.h"
 #include "tests/window/WindowTestSupport.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QFile>
@@ -13,7 +14,6 @@
 #include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
-#include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -25,20 +25,8 @@
 namespace orrery::window::testing {
 namespace {
 
-QByteArray runOrrery(const QStringList& arguments) {
-    QProcess orrery;
-    orrery.start(QStringLiteral(ORRERY_EXECUTABLE), arguments);
-    orrery.waitForFinished(30000);
-    return orrery.readAllStandardOutput();
-}
-
 QJsonObject packageInfo(const QString& package) {
     return QJsonDocument::fromJson(runOrrery({"info", package})).object();
-}
-
-QByteArray contents(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace
@@ -50,7 +38,7 @@ private slots:
         createPlanets(2);
         PlanetTable& table = app().tableView1();
         clickRow(0);
-        type(*field(PlanetColumn::radius), "30", Qt::Key_Return);
+        typeInto(*field(PlanetColumn::radius), "30", Qt::Key_Return);
         QCOMPARE(record(0).radius, std::string("30"));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(record(0).radius, std::string("24"));
@@ -62,7 +50,7 @@ private slots:
         QCOMPARE(std::count_if(radiusFields.begin(), radiusFields.end(),
                                [](const QLineEdit* f) { return f->isVisible(); }),
                  1);
-        type(*field(PlanetColumn::radius), "40", Qt::Key_Return);
+        typeInto(*field(PlanetColumn::radius), "40", Qt::Key_Return);
         QCOMPARE(record(1).radius, std::string("40"));
         QCOMPARE(record(0).radius, std::string("24"));
     }
@@ -142,6 +130,24 @@ private slots:
         QVERIFY(!QFile::exists(package + QStringLiteral("/Inner.kvx")));
     }
 
+    void aDoubleClickedPackageIsChosenNotEnteredInEitherPanel() {
+        createPlanets(1);
+        const QString package = folder_.filePath(QStringLiteral("Kept.kvx"));
+        saveAs(package);
+        createPlanets(2);
+        app().menus().fileSaveAs->trigger();
+        doubleClickInPanel("savePanel", QStringLiteral("Kept.kvx"));
+        answer(kFirstButton); // replace it
+        QTRY_VERIFY(!app().hasUnsavedChanges() && !hasProgress());
+        QCOMPARE(packageInfo(package)["planets"].toArray().size(), 3);
+
+        app().menus().fileNew->trigger();
+        answer(kFirstButton);
+        app().menus().fileOpen->trigger();
+        doubleClickInPanel("openPanel", QStringLiteral("Kept.kvx"));
+        QTRY_COMPARE(app().state().planetArray.size(), std::size_t(3));
+    }
+
     void afterNewTheQuestionOffersSaveAsAndNeverWritesTheOldPackage() {
         createPlanets(1);
         const QString package = folder_.filePath(QStringLiteral("Old.kvx"));
@@ -211,13 +217,6 @@ private:
         QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, cell.center());
     }
 
-    void type(QLineEdit& into, const char* text, Qt::Key command) {
-        into.setFocus();
-        into.selectAll();
-        QTest::keyClicks(&into, QLatin1String(text));
-        QTest::keyClick(&into, command);
-    }
-
     void answer(int button) {
         QWidget* question = nullptr;
         QTRY_VERIFY((question = visibleTopLevel("questionSheet")) != nullptr);
@@ -244,6 +243,24 @@ private:
         QTRY_VERIFY((panel = qobject_cast<QFileDialog*>(visibleTopLevel("savePanel"))) != nullptr);
         chooseInPanel(*panel, path);
         QTRY_VERIFY(QFile::exists(path) && !hasProgress());
+    }
+
+    // A double click on an entry of the panel's list, as a person picks a package.
+    void doubleClickInPanel(const char* panelName, const QString& entry) {
+        QFileDialog* panel = nullptr;
+        QTRY_VERIFY((panel = qobject_cast<QFileDialog*>(visibleTopLevel(panelName))) != nullptr);
+        panel->setDirectory(folder_.path());
+        auto& list = child<QAbstractItemView>(*panel, "listView");
+        QModelIndex item;
+        QTRY_VERIFY((item = list.model()->index(0, 0, list.rootIndex())).isValid());
+        for (int row = 0; row < list.model()->rowCount(list.rootIndex()); ++row)
+            if (list.model()->index(row, 0, list.rootIndex()).data().toString() == entry)
+                item = list.model()->index(row, 0, list.rootIndex());
+        QCOMPARE(item.data().toString(), entry);
+        const QPoint centre = list.visualRect(item).center();
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, centre);
+        QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, centre);
+        QTRY_VERIFY(visibleTopLevel(panelName) == nullptr);
     }
 
     static bool hasProgress() { return visibleTopLevel("progressSheet") != nullptr; }

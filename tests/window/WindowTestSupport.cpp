@@ -5,7 +5,9 @@
 
 #include <QApplication>
 #include <QCoreApplication>
+#include <QFile>
 #include <QLineEdit>
+#include <QProcess>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
@@ -76,6 +78,25 @@ void chooseInPanel(QDialog& panel, const QString& path) {
         qFatal("the panel has no name field");
     name->setText(path);
     panel.accept();
+}
+
+void typeInto(QLineEdit& field, const char* text, Qt::Key command) {
+    field.setFocus();
+    field.selectAll();
+    QTest::keyClicks(&field, QLatin1String(text));
+    QTest::keyClick(&field, command);
+}
+
+QByteArray runOrrery(const QStringList& arguments) {
+    QProcess orrery;
+    orrery.start(QStringLiteral(ORRERY_EXECUTABLE), arguments);
+    orrery.waitForFinished(30000);
+    return orrery.readAllStandardOutput();
+}
+
+QByteArray contents(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QColor pixelOnScreen(QWidget& widget, QPoint point) {

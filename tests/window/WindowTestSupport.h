@@ -3,6 +3,7 @@
 #include "customWin/AppDelegate.h"
 
 #include <QDialog>
+#include <QLineEdit>
 #include <QTemporaryDir>
 #include <QWidget>
 
@@ -61,6 +62,15 @@ template <typename T> T& child(QWidget& window, const char* name) {
 
 // Types the path into a file panel's name field and presses its button, as a person would.
 void chooseInPanel(QDialog& panel, const QString& path);
+
+// Replaces the field's text by typing, then presses the command key, as a person does.
+void typeInto(QLineEdit& field, const char* text, Qt::Key command);
+
+// Runs the command-line program, which reads back what the window wrote; its output.
+QByteArray runOrrery(const QStringList& arguments);
+
+// A file's bytes, or nothing when it cannot be read.
+QByteArray contents(const QString& path);
 
 // The colour of a point of a widget as it is drawn on screen.
 QColor pixelOnScreen(QWidget& widget, QPoint point);
