@@ -1,18 +1,21 @@
 #include "customWin/Accessibility.h"
 
-#include "customWin/FramedWindow.h"
-#include "customWin/mainWindow.h"
-
 #include <QAccessibleWidget>
+#include <QDialog>
 
 namespace orrery::window {
 namespace {
 
+// Every window of the program that is no dialog (the main window, the tour, the style
+// library and the find window); dialogs, sheets and alerts have their roles from the toolkit.
 QAccessibleInterface* windowInterface(const QString&, QObject* object) {
-    if (qobject_cast<mainWindow*>(object) != nullptr ||
-        qobject_cast<FramedWindow*>(object) != nullptr)
-        return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Window);
-    return nullptr;
+    auto* widget = qobject_cast<QWidget*>(object);
+    if (widget == nullptr || !widget->isWindow() || qobject_cast<QDialog*>(object) != nullptr)
+        return nullptr;
+    const Qt::WindowType type = widget->windowType();
+    if (type != Qt::Window && type != Qt::Tool)
+        return nullptr;
+    return new QAccessibleWidget(widget, QAccessible::Window);
 }
 
 } // namespace

@@ -6,19 +6,21 @@
 #include "core/model/TextNumber.h"
 #include "core/settings/SettingsReaders.h"
 #include "customWin/DesktopScreens.h"
+#include "customWin/MenuKeys.h"
 #include "customWin/PlanetCreationSheet.h"
 #include "customWin/Strings.h"
-#include "customWin/UndoKeys.h"
 #include "customWin/gradationWindow.h"
 #include "customWin/headerView.h"
 #include "customWin/introduction/introductionWindow.h"
 #include "customWin/mainView.h"
 #include "customWin/mainWindow.h"
+
 #include "customWin/preferences/accessoryView1p.h"
 #include "customWin/sceneView.h"
 #include "customWin/screenView.h"
 #include "customWin/searchWindow.h"
 #include "customWin/tableView1/PlanetTable.h"
+#include <QMenuBar>
 
 #include <QLineEdit>
 #include <QPrinter>
@@ -34,7 +36,6 @@ AppDelegate::AppDelegate()
     // Start-up step 1: empty lists, full screen on offer.
     state_.canEnterFull = true;
     state_.appName = appName_.toStdString();
-    routeUndoKeys(*this);
 }
 
 AppDelegate::~AppDelegate() {
@@ -121,6 +122,7 @@ void AppDelegate::placeMainWindow(const WindowPlacement& placement) {
 
 void AppDelegate::makeNSControls() {
     menus_ = buildMenuBar(mainWindow_->content().header().menuBar());
+    routeMenuKeys(*this, mainWindow_->content().header().menuBar());
     makeNSMenu(menus_, appName_);
     connectMenuActions();
     buildPlanetPanel();

@@ -4,6 +4,7 @@
 #include "core/validate/Validators.h"
 #include "customWin/AppDelegate.h"
 #include "customWin/CameraPopover.h"
+#include "customWin/CheckedQuietly.h"
 #include "customWin/ColorConversion.h"
 #include "customWin/FieldValidity.h"
 #include "customWin/PlanetPanel.h"
@@ -70,9 +71,9 @@ void AppDelegate::buildPopovers() {
         connect(field, &QLineEdit::textEdited, this, [this, field] { cameraFieldEdited(*field); });
     for (QLineEdit* field : {&popOver4_->xField4(), &popOver4_->yField4(), &popOver4_->zField4()})
         connect(field, &QLineEdit::textEdited, this, [this, field] { lightFieldEdited(*field); });
-    connect(&popOver5_->orthoButton5(), &QCheckBox::clicked, this,
+    connect(&popOver5_->orthoButton5(), &QCheckBox::toggled, this,
             [this] { applyCameraSwitches(); });
-    connect(&popOver5_->adjustZButton5(), &QCheckBox::clicked, this,
+    connect(&popOver5_->adjustZButton5(), &QCheckBox::toggled, this,
             [this] { applyCameraSwitches(); });
     connect(&popOver5_->defaultButton5(), &QPushButton::clicked, this,
             &AppDelegate::setCameraDefault);
@@ -111,8 +112,8 @@ void AppDelegate::showCameraSettings() {
               {&camera.xField5(), QString::fromStdString(settings[2])},
               {&camera.yField5(), QString::fromStdString(settings[3])},
               {&camera.zField5(), QString::fromStdString(settings[4])}});
-    camera.orthoButton5().setChecked(settings[5] == "1");
-    camera.adjustZButton5().setChecked(settings[6] == "1");
+    setCheckedQuietly(camera.orthoButton5(), settings[5] == "1");
+    setCheckedQuietly(camera.adjustZButton5(), settings[6] == "1");
 }
 
 void AppDelegate::show1Clicked() {
@@ -183,8 +184,8 @@ void AppDelegate::setCameraDefault() {
               {&camera.xField5(), QStringLiteral("0.000000")},
               {&camera.yField5(), QStringLiteral("0.000000")},
               {&camera.zField5(), QStringLiteral("500.000000")}});
-    camera.orthoButton5().setChecked(true);
-    camera.adjustZButton5().setChecked(true);
+    setCheckedQuietly(camera.orthoButton5(), true);
+    setCheckedQuietly(camera.adjustZButton5(), true);
 }
 
 void AppDelegate::colorChanged4Clicked(const Color& color) {

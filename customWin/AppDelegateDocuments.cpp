@@ -7,6 +7,7 @@
 #include "core/settings/SettingsReaders.h"
 #include "customWin/AppDelegate.h"
 #include "customWin/CameraPopover.h"
+#include "customWin/CheckedQuietly.h"
 #include "customWin/FieldValidity.h"
 #include "customWin/PackageDialogs.h"
 #include "customWin/PlanetPanel.h"
@@ -97,7 +98,7 @@ void AppDelegate::createNewSystem2() {
     PlanetPanel& panel = planetPanel();
     panel.deletePlanetButton1().setEnabled(false);
     panel.allButton1().setEnabled(false);
-    panel.allButton1().setChecked(false);
+    setCheckedQuietly(panel.allButton1(), false);
     setCameraDefault();
     setLightDefault();
     loadMenuStatus();
@@ -260,8 +261,8 @@ void AppDelegate::showOpenedCameraAndLight(const OpenedProject& project) {
             cameraFields[i]->setText(QString::fromStdString(s[setting::cameraXFov + i]));
             markValid(*cameraFields[i], true);
         }
-        camera.orthoButton5().setChecked(project.orthographic);
-        camera.adjustZButton5().setChecked(project.zRange);
+        setCheckedQuietly(camera.orthoButton5(), project.orthographic);
+        setCheckedQuietly(camera.adjustZButton5(), project.zRange);
     } else {
         markCameraFields();
     }

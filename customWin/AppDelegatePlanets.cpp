@@ -6,6 +6,7 @@
 #include "core/settings/SettingsReaders.h"
 #include "core/validate/Validators.h"
 #include "customWin/AppDelegate.h"
+#include "customWin/CheckedQuietly.h"
 #include "customWin/PlanetCreationSheet.h"
 #include "customWin/PlanetPanel.h"
 #include "customWin/Sheet.h"
@@ -60,7 +61,7 @@ void AppDelegate::buildPlanetPanel() {
     connect(&panel.createPlanetButton1(), &QPushButton::clicked, this,
             &AppDelegate::openPlanetCreation);
     connect(&panel.deletePlanetButton1(), &QPushButton::clicked, this, &AppDelegate::deletPlanet1);
-    connect(&panel.allButton1(), &QCheckBox::clicked, this, &AppDelegate::all1Clicked);
+    connect(&panel.allButton1(), &QCheckBox::toggled, this, &AppDelegate::all1Clicked);
     connect(&panel.exportButton1(), &QPushButton::clicked, this, &AppDelegate::FileExport1);
     connect(tableView1_, &PlanetTable::selectionChangedRows, this,
             &AppDelegate::planetDeletionSelection);
@@ -278,7 +279,7 @@ void AppDelegate::showHistoryStep(const EditStep* step, bool undone) {
     if (step->document)
         showDocumentSettings();
     if (const std::optional<bool> box = showAllBoxAfter(*step, undone))
-        planetPanel().allButton1().setChecked(*box);
+        setCheckedQuietly(planetPanel().allButton1(), *box);
     if (step->camera && state_.popover5shown)
         showCameraSettings();
     if (step->light) {

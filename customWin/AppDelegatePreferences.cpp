@@ -50,7 +50,8 @@ void AppDelegate::openPreferences() {
     view.showValues(shownPreferences(settings_, documentsFolder()));
     preferencesSheet_ =
         new ContentSheet(view, *mainWindow_, {accessoryView1p::kWidth, accessoryView1p::kHeight},
-                         QStringLiteral("preferencesSheet"), QStringLiteral("preferencesView"));
+                         text("sheetTitlePreferences"), QStringLiteral("preferencesSheet"),
+                         QStringLiteral("preferencesView"));
     // Escape closes the sheet as Close does.
     connect(preferencesSheet_, &QDialog::rejected, this, &AppDelegate::close1pClicked);
     preferencesSheet_->open();

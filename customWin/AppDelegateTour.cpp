@@ -37,7 +37,7 @@ introductionWindow& AppDelegate::tourWindow() {
     tour.backButton7().setEnabled(false);
     connect(&tour.forwardButton7(), &QPushButton::clicked, this, &AppDelegate::forward7Clicked);
     connect(&tour.backButton7(), &QPushButton::clicked, this, &AppDelegate::back7Clicked);
-    connect(&tour.noshowButton7(), &QCheckBox::clicked, this, &AppDelegate::dontshow7Clicked);
+    connect(&tour.noshowButton7(), &QCheckBox::toggled, this, &AppDelegate::dontshow7Clicked);
     connect(&tour, &introductionWindow::closed, this,
             [this] { state_.introductionWindowOpen = false; });
     return tour;
@@ -78,7 +78,7 @@ void AppDelegate::back7Clicked() {
     turnTourPage(tourBack(state_.currentPage));
 }
 
-// Once the box has been clicked at all, the tour stays off at later starts, whichever way
+// Once the box has been switched at all, the tour stays off at later starts, whichever way
 // the box now stands, until the Preferences say otherwise.
 void AppDelegate::dontshow7Clicked(bool on) {
     constexpr int kTourSwitch = 2;

@@ -243,7 +243,7 @@ void AppDelegate::fullWindowClicked() {
     if (mainWindow_->isFullScreen())
         mainWindow_->showNormal();
     else
-        mainWindow_->showFullScreen();
+        mainWindow_->enterFullScreen();
 }
 
 void AppDelegate::windowWillEnterFullscreen() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "customWin/Sheet.h"
+#include "customWin/Strings.h"
 
 #include <QWidget>
 
@@ -38,8 +39,8 @@ public:
     static constexpr int kHeight = 168;
 
     PlanetAddSheet(accessoryView3& contents, QWidget& window)
-        : ContentSheet(contents, window, {kWidth, kHeight}, QStringLiteral("planetAddSheet"),
-                       QStringLiteral("planetAddView")) {}
+        : ContentSheet(contents, window, {kWidth, kHeight}, text("sheetTitleCreatePlanet"),
+                       QStringLiteral("planetAddSheet"), QStringLiteral("planetAddView")) {}
 };
 
 } // namespace orrery::window

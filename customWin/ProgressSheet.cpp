@@ -51,6 +51,7 @@ void Spinner::paintEvent(QPaintEvent*) {
 ProgressSheet::ProgressSheet(const QString& label, QWidget& window)
     : QDialog(&window), spinner_(new Spinner(this)), label_(new QLabel(label, this)) {
     setObjectName(QStringLiteral("progressSheet"));
+    setWindowTitle(label);
     makeSheet(*this);
     setFixedSize(400, 114);
     // The spinner near the top, 74 above the bottom edge, the label centred under it.

@@ -52,6 +52,8 @@ void askOnSheet(QWidget& window, const QString& message, const QString& informat
     auto* box =
         new QMessageBox(QMessageBox::Question, QString(), message, QMessageBox::NoButton, &window);
     box->setObjectName(QStringLiteral("questionSheet"));
+    // Screen readers announce a sheet by its title, which no one sees on a sheet.
+    box->setWindowTitle(message);
     makeSheet(*box);
     box->setInformativeText(informative);
     QList<QPushButton*> pushButtons;
@@ -78,10 +80,11 @@ void askOnSheet(QWidget& window, const QString& message, const QString& informat
     placeAsSheet(*box, window);
 }
 
-ContentSheet::ContentSheet(QWidget& contents, QWidget& window, QSize size, const QString& sheetName,
-                           const QString& viewName)
+ContentSheet::ContentSheet(QWidget& contents, QWidget& window, QSize size, const QString& title,
+                           const QString& sheetName, const QString& viewName)
     : QDialog(&window), view_(new QWidget(this)), contents_(contents) {
     setObjectName(sheetName);
+    setWindowTitle(title);
     view_->setObjectName(viewName);
     makeSheet(*this);
     setFixedSize(size);

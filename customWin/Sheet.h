@@ -36,8 +36,10 @@ void askOnSheet(QWidget& window, const QString& message, const QString& informat
 class ContentSheet : public QDialog {
     Q_OBJECT
 public:
-    ContentSheet(QWidget& contents, QWidget& window, QSize size, const QString& sheetName,
-                 const QString& viewName);
+    // The title is never drawn (a sheet has no title bar) but names the sheet to screen
+    // readers.
+    ContentSheet(QWidget& contents, QWidget& window, QSize size, const QString& title,
+                 const QString& sheetName, const QString& viewName);
     // Hides the sheet; half a second later (so that its closing is drawn whole) the contents
     // are taken back out, unless a new sheet has taken them meanwhile, and the sheet goes.
     void finish();

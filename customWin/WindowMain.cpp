@@ -3,6 +3,7 @@
 #include "customWin/Accessibility.h"
 #include "customWin/AppDelegate.h"
 #include "customWin/AppStyle.h"
+#include "customWin/OpenGLCheck.h"
 #include "customWin/mainWindow.h"
 #include "resources/Artwork.h"
 #include "resources/translations/Translations.h"
@@ -45,6 +46,10 @@ int runWindow(int argc, char** argv) {
     translations::install(application, QLocale());
     applyAppStyle(application);
     announceWindowsAsWindows();
+    if (const QString missing = missingOpenGL(); !missing.isEmpty()) {
+        reportMissingOpenGL(QFileInfo(QString::fromLocal8Bit(argv[0])).fileName(), missing);
+        return 1;
+    }
 
     AppDelegate delegate;
     QApplication::setApplicationName(delegate.readAppname());

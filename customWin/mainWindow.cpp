@@ -36,10 +36,7 @@ mainWindow::mainWindow() : content_(new mainView(this)) {
     setObjectName(QStringLiteral("mainWindow"));
     setWindowFlag(Qt::FramelessWindowHint);
     setAttribute(Qt::WA_DeleteOnClose, false);
-    const PixelSize smallest = minimumWindowSize();
-    const PixelSize largest = maximumWindowSize();
-    setMinimumSize(smallest.width, smallest.height);
-    setMaximumSize(largest.width, largest.height);
+    limitSize(true);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(content_);
@@ -51,6 +48,21 @@ mainWindow::mainWindow() : content_(new mainView(this)) {
     connect(&ownResizeSettled_, &QTimer::timeout, this, [this] { ownResize_ = false; });
     qApp->installEventFilter(this);
     setAcceptDrops(true);
+}
+
+void mainWindow::limitSize(bool limited) {
+    const PixelSize smallest = minimumWindowSize();
+    const PixelSize largest = maximumWindowSize();
+    setMinimumSize(smallest.width, smallest.height);
+    if (limited)
+        setMaximumSize(largest.width, largest.height);
+    else
+        setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+}
+
+void mainWindow::enterFullScreen() {
+    limitSize(false);
+    showFullScreen();
 }
 
 void mainWindow::beginOwnResize() {
@@ -118,6 +130,14 @@ void mainWindow::changeEvent(QEvent* event) {
     if (isFullScreen() == wasFullScreen_)
         return;
     wasFullScreen_ = isFullScreen();
+    // Full screen from the window manager (a key of its own) lifts the limit late; asking
+    // again lets the window manager cover the screen.
+    if (wasFullScreen_ && maximumWidth() != QWIDGETSIZE_MAX) {
+        limitSize(false);
+        showFullScreen();
+    } else if (!wasFullScreen_) {
+        limitSize(true);
+    }
     if (wasFullScreen_)
         emit enteredFullScreen();
     else

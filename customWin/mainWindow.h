@@ -28,6 +28,10 @@ public:
     void beginOwnResize();
     bool resizeIsOwn() const { return ownResize_; }
 
+    // Full screen covers the screen whatever its size: the largest document's limit on the
+    // window's size is lifted while it lasts.
+    void enterFullScreen();
+
 signals:
     void resized();
     // The pointer let go of the window's edge: a resize by hand has ended.
@@ -48,6 +52,7 @@ protected:
 
 private:
     Qt::Edges edgesAt(const QPoint& windowPoint) const;
+    void limitSize(bool limited);
     void showEdgeCursor(Qt::Edges edges);
 
     mainView* content_;

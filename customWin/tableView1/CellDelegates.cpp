@@ -1,6 +1,7 @@
 #include "customWin/tableView1/CellDelegates.h"
 
 #include "core/model/TextNumber.h"
+#include "customWin/CheckedQuietly.h"
 #include "customWin/Strings.h"
 #include "customWin/tableView1/checkButton1_02.h"
 #include "customWin/tableView1/colorWell1_09.h"
@@ -68,8 +69,8 @@ void TextCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
     painter->setPen(textColour(option));
     const QRect area = option.rect.adjusted(kCellPadding, 0, -kCellPadding, 0);
     const bool number = columnAt(index.column()) != PlanetColumn::name;
-    const QString value = option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight,
-                                                        area.width());
+    const QString value =
+        option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, area.width());
     painter->drawText(area, Qt::AlignVCenter | (number ? Qt::AlignRight : Qt::AlignLeft), value);
 }
 
@@ -105,13 +106,13 @@ QWidget* StateCellDelegate::createEditor(QWidget* parent, const QStyleOptionView
     auto* box = new checkButton1_02(parent);
     box->setObjectName(QStringLiteral("checkButton1_02"));
     box->setAccessibleName(columnTitle(index));
-    connect(box, &QAbstractButton::clicked, this,
+    connect(box, &QAbstractButton::toggled, this,
             [this](bool on) { handlers_.stateChanged(on ? 1 : 0); });
     return box;
 }
 
 void StateCellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
-    static_cast<checkButton1_02*>(editor)->setChecked(recordAt(index).state == "1");
+    setCheckedQuietly(*static_cast<checkButton1_02*>(editor), recordAt(index).state == "1");
 }
 
 void ChoiceCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -124,9 +125,8 @@ void ChoiceCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
     QRect area = option.rect.adjusted(kCellPadding, 0, -kCellPadding, 0);
     if (!picture.isNull()) {
         const QSize size = picture.deviceIndependentSize().toSize();
-        painter->drawPixmap(QRect(QPoint(area.left(), area.center().y() - size.height() / 2 + 1),
-                                  size),
-                            picture);
+        painter->drawPixmap(
+            QRect(QPoint(area.left(), area.center().y() - size.height() / 2 + 1), size), picture);
         area.setLeft(area.left() + size.width() + kCellPadding);
     }
     painter->setPen(textColour(option));

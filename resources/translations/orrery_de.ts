@@ -1228,5 +1228,25 @@
         <extracomment>Name of a change in Undo and Redo: the picture's size.</extracomment>
         <translation>Dokumentgröße</translation>
     </message>
+    <message id="noOpenGLMsg">
+        <source>The scene cannot be drawn on this display.</source>
+        <extracomment>Alert at start when the display offers no usable OpenGL; the program then ends.</extracomment>
+        <translation>Die Szene kann auf diesem Bildschirm nicht gezeigt werden.</translation>
+    </message>
+    <message id="noOpenGLInformative">
+        <source>Orrery needs %1. Pictures can still be made from the command line with “orrery render”.</source>
+        <extracomment>Informative text of that alert; %1 says what is missing.</extracomment>
+        <translation>Orrery braucht %1. Bilder lassen sich weiterhin auf der Befehlszeile mit „orrery render“ erzeugen.</translation>
+    </message>
+    <message id="sheetTitleCreatePlanet">
+        <source>New Planet</source>
+        <extracomment>Name of the planet creation sheet for screen readers.</extracomment>
+        <translation>Neuer Planet</translation>
+    </message>
+    <message id="sheetTitlePreferences">
+        <source>Preferences</source>
+        <extracomment>Name of the Preferences sheet for screen readers.</extracomment>
+        <translation>Einstellungen</translation>
+    </message>
 </context>
 </TS>

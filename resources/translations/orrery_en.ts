@@ -1228,5 +1228,25 @@
         <extracomment>Name of a change in Undo and Redo: the picture's size.</extracomment>
         <translation>Document Size</translation>
     </message>
+    <message id="noOpenGLMsg">
+        <source>The scene cannot be drawn on this display.</source>
+        <extracomment>Alert at start when the display offers no usable OpenGL; the program then ends.</extracomment>
+        <translation>The scene cannot be drawn on this display.</translation>
+    </message>
+    <message id="noOpenGLInformative">
+        <source>Orrery needs %1. Pictures can still be made from the command line with “orrery render”.</source>
+        <extracomment>Informative text of that alert; %1 says what is missing.</extracomment>
+        <translation>Orrery needs %1. Pictures can still be made from the command line with “orrery render”.</translation>
+    </message>
+    <message id="sheetTitleCreatePlanet">
+        <source>New Planet</source>
+        <extracomment>Name of the planet creation sheet for screen readers.</extracomment>
+        <translation>New Planet</translation>
+    </message>
+    <message id="sheetTitlePreferences">
+        <source>Preferences</source>
+        <extracomment>Name of the Preferences sheet for screen readers.</extracomment>
+        <translation>Preferences</translation>
+    </message>
 </context>
 </TS>
