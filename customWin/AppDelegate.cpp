@@ -8,6 +8,7 @@
 #include "customWin/DesktopScreens.h"
 #include "customWin/MenuKeys.h"
 #include "customWin/PlanetCreationSheet.h"
+#include "customWin/PlanetPanel.h"
 #include "customWin/Strings.h"
 #include "customWin/gradationWindow.h"
 #include "customWin/headerView.h"
@@ -20,7 +21,9 @@
 #include "customWin/screenView.h"
 #include "customWin/searchWindow.h"
 #include "customWin/tableView1/PlanetTable.h"
+#include <QCheckBox>
 #include <QMenuBar>
+#include <QPushButton>
 
 #include <QLineEdit>
 #include <QPrinter>
@@ -134,10 +137,24 @@ void AppDelegate::makeNSControls() {
     QLineEdit& height = mainWindow_->content().header().heightField1();
     width.setAccessibleName(text("accessibleWidthField"));
     height.setAccessibleName(text("accessibleHeightField"));
+    setReadingTabOrder();
     sceneview().setAccessibleName(text("accessibleSceneView"));
     screenview().setAccessibleName(text("accessibleBackdrop"));
     mainWindow_->setWindowTitle(appName_);
     mainWindow_->setAccessibleName(appName_);
+}
+
+// Tab runs through the window as it reads: the document size, the planet panel's buttons
+// from left to right, then the table.
+void AppDelegate::setReadingTabOrder() {
+    headerView& header = mainWindow_->content().header();
+    PlanetPanel& panel = planetPanel();
+    QWidget* const order[] = {
+        &header.widthField1(),        &header.heightField1(), &panel.createPlanetButton1(),
+        &panel.deletePlanetButton1(), &panel.allButton1(),    &panel.cameraButton(),
+        &panel.lightButton(),         &panel.exportButton1(), tableView1_};
+    for (std::size_t i = 1; i < std::size(order); ++i)
+        QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
 void AppDelegate::saveWindowFrame() {

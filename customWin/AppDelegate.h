@@ -163,6 +163,7 @@ private:
     void makeNSControls();
     void registerWindowObservers();
     void buildTitleBar();
+    void setReadingTabOrder();
     // The title first, then the buttons that lie over it.
     QList<QWidget*> titleBarControls() const;
     void showDocumentSize();

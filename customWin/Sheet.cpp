@@ -25,6 +25,8 @@ void placeAsSheet(QDialog& sheet, const QWidget& window) {
     const QRect frame = window.frameGeometry();
     sheet.adjustSize();
     sheet.move(frame.left() + (frame.width() - sheet.width()) / 2, frame.top() + kSheetDrop);
+    // The keyboard goes to the sheet at once, not when the window manager gets round to it.
+    sheet.activateWindow();
 }
 
 namespace {

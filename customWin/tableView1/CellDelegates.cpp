@@ -84,6 +84,8 @@ QWidget* TextCellDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
         field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     connect(field, &textField1::commandIssued, this,
             [this, column](const QString& typed) { handlers_.textChanged(column, typed); });
+    connect(field, &textField1::leaveRequested, parent,
+            [parent] { parent->parentWidget()->setFocus(Qt::ShortcutFocusReason); });
     return field;
 }
 

@@ -2,11 +2,16 @@
 
 #include "core/styles/SurfaceNames.h"
 #include "customWin/Strings.h"
+#include "customWin/tableView1/ChoiceGridKeys.h"
 #include "customWin/tableView1/Swatches.h"
 
 #include <QGridLayout>
 #include <QMenu>
+#include <QTimer>
 #include <QWidgetAction>
+
+#include <algorithm>
+#include <vector>
 
 namespace orrery::window {
 namespace {
@@ -63,12 +68,13 @@ QMenu& MetalPopupButton::choices() {
     layout->setSpacing(2);
     const long last = kind_ == Kind::style ? kStyleChoices : kSurfaceCount;
     const int columns = kind_ == Kind::style ? kStyleColumns : kSurfaceColumns;
+    std::vector<QToolButton*> items;
     for (long i = 0; i <= last; ++i) {
         auto* item = new QToolButton(grid);
+        items.push_back(item);
         item->setObjectName(QStringLiteral("choice%1").arg(i));
         item->setAutoRaise(true);
         item->setCheckable(true);
-        item->setFocusPolicy(Qt::NoFocus);
         const QPixmap picture = menuPicture(kind_, i);
         item->setText(i == 0 ? window::text("selectOne") : QString::number(i));
         if (!picture.isNull()) {
@@ -89,9 +95,12 @@ QMenu& MetalPopupButton::choices() {
     auto* action = new QWidgetAction(menu_);
     action->setDefaultWidget(grid);
     menu_->addAction(action);
-    connect(menu_, &QMenu::aboutToShow, this, [this, grid] {
+    auto* keys = new ChoiceGridKeys(std::move(items), columns, menu_);
+    connect(menu_, &QMenu::aboutToShow, this, [this, grid, keys] {
         for (auto* item : grid->findChildren<QToolButton*>())
             item->setChecked(item->objectName() == QStringLiteral("choice%1").arg(index_));
+        // The keyboard starts on the current choice once the menu is up.
+        QTimer::singleShot(0, keys, [this, keys] { keys->focusChoice(std::max(0L, index_)); });
     });
     return *menu_;
 }

@@ -2,7 +2,12 @@
 
 #include "customWin/Strings.h"
 
+#include <QAbstractButton>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include <algorithm>
 
 namespace orrery::window {
 namespace {
@@ -24,6 +29,8 @@ PlanetTable::PlanetTable(PlanetTableModel& model, const CellHandlers& handlers, 
     setShowGrid(false);
     setWordWrap(false);
     setCornerButtonEnabled(false);
+    // Tab leaves the table for the next control of the window; the arrows move in it.
+    setTabKeyNavigation(false);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(kRowHeight);
@@ -90,6 +97,36 @@ void PlanetTable::showControls() {
     if (row >= 0)
         for (int column = 0; column < kPlanetColumnCount; ++column)
             openPersistentEditor(model_.index(row, column));
+}
+
+void PlanetTable::keyPressEvent(QKeyEvent* event) {
+    const int key = event->key();
+    const bool activates =
+        key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F2 || key == Qt::Key_Space;
+    QWidget* cell = activates
+                        ? control(orrery::window::columnAt(std::max(0, currentIndex().column())))
+                        : nullptr;
+    if (cell == nullptr)
+        return QTableView::keyPressEvent(event);
+    if (auto* field = qobject_cast<QLineEdit*>(cell)) {
+        field->setFocus(Qt::ShortcutFocusReason);
+        field->selectAll();
+    } else if (auto* button = qobject_cast<QAbstractButton*>(cell)) {
+        button->click();
+    }
+    event->accept();
+}
+
+bool PlanetTable::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
+    if (trigger == CurrentChanged && !pressing_)
+        return false;
+    return QTableView::edit(index, trigger, event);
+}
+
+void PlanetTable::mousePressEvent(QMouseEvent* event) {
+    pressing_ = true;
+    QTableView::mousePressEvent(event);
+    pressing_ = false;
 }
 
 void PlanetTable::closeControls() {

@@ -28,12 +28,22 @@ signals:
     // The set of selected rows changed (and with it which row has live controls).
     void selectionChangedRows();
 
+protected:
+    // Return, Enter, F2 and Space work the control of the current cell in the selected row:
+    // a text cell takes the keyboard, the other controls act as if clicked.
+    void keyPressEvent(QKeyEvent* event) override;
+    // A control takes the keyboard when a click lands on its row, not when the arrows
+    // move through the rows: the arrows stay with the table.
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
 private:
     void showControls();
     void closeControls();
 
     PlanetTableModel& model_;
     int controlsRow_ = -1;
+    bool pressing_ = false;
 };
 
 } // namespace orrery::window

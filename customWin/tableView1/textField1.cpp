@@ -53,6 +53,8 @@ void textField1::keyPressEvent(QKeyEvent* event) {
     if (isCommand(event->key())) {
         emit commandIssued(text());
         event->accept();
+        if (event->key() == Qt::Key_Escape)
+            emit leaveRequested();
         return;
     }
     QLineEdit::keyPressEvent(event);
