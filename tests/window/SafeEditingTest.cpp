@@ -193,6 +193,21 @@ private slots:
         QTRY_VERIFY(note.isVisible() && note.text().startsWith(QStringLiteral("Shown at")));
     }
 
+    void theMenusKeysReachTheMenusFromAFieldThatHasNoUseForThem() {
+        createPlanets(1);
+        clickRow(0);
+        QLineEdit* name = field(PlanetColumn::name);
+        name->setFocus();
+        QTRY_COMPARE(QApplication::focusWidget(), name);
+        QTest::keyClick(name, Qt::Key_E, Qt::ControlModifier); // a field's end of line
+        answer(kSecondButton);                                 // the export question came; not now
+        // Delete stays the field's own key.
+        name->setCursorPosition(0);
+        QTest::keyClick(name, Qt::Key_Delete);
+        QCOMPARE(name->text(), QStringLiteral("lanet 1"));
+        QCOMPARE(app().state().planetArray.size(), std::size_t(1));
+    }
+
     // A person without a mouse: every step below is a key.
     void theKeyboardAloneBuildsAndEditsASystem() {
         const auto press = [](int key, Qt::KeyboardModifiers modifiers = {}) {

@@ -6,6 +6,7 @@
 
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QProcess>
 #include <QTest>
 
 namespace orrery::window::testing {
@@ -86,6 +87,25 @@ private slots:
         const std::vector<std::string> stored = storedWindows(app.appFolder());
         QCOMPARE(stored[2], std::string("200.000000"));
         QCOMPARE(stored[3], std::string("100.000000"));
+    }
+
+    // A display without OpenGL (the offscreen platform has none) is told, not crashed on.
+    void aDisplayWithoutOpenGLIsToldInOneLineAndTheProgramEnds() {
+        QProcess orrery;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        // With an X display the offscreen platform borrows its OpenGL; without one it has none.
+        environment.remove(QStringLiteral("DISPLAY"));
+        orrery.setProcessEnvironment(environment);
+        orrery.start(QStringLiteral(ORRERY_EXECUTABLE), {});
+        QVERIFY(orrery.waitForFinished(30000));
+        QCOMPARE(orrery.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(orrery.exitCode(), 1);
+        const QStringList lines = QString::fromLocal8Bit(orrery.readAllStandardError())
+                                      .split(QLatin1Char('\n'), Qt::SkipEmptyParts)
+                                      .filter(QStringLiteral("orrery:"));
+        QCOMPARE(lines.size(), 1);
+        QVERIFY(lines.first().contains(QStringLiteral("OpenGL")));
     }
 };
 
