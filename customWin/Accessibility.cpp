@@ -1,6 +1,8 @@
 #include "customWin/Accessibility.h"
 
+#include <QAbstractItemView>
 #include <QAccessibleWidget>
+#include <QComboBox>
 #include <QDialog>
 
 namespace orrery::window {
@@ -19,6 +21,11 @@ QAccessibleInterface* windowInterface(const QString&, QObject* object) {
 }
 
 } // namespace
+
+void nameChoices(QComboBox& menu, const QString& name) {
+    menu.setAccessibleName(name);
+    menu.view()->setAccessibleName(name);
+}
 
 void announceWindowsAsWindows() {
     QAccessible::installFactory(windowInterface);

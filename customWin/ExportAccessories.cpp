@@ -1,4 +1,5 @@
 #include "customWin/ExportAccessories.h"
+#include "customWin/Accessibility.h"
 
 #include "core/export/ExportFormat.h"
 #include "customWin/PercentSlider.h"
@@ -23,7 +24,7 @@ accessoryView1::accessoryView1(QWidget* parent)
             QString::fromUtf8(format.name.data(), static_cast<qsizetype>(format.name.size())));
     auto* label = new QLabel(text("controlAccessory1Label1"), this);
     label->setBuddy(formats_);
-    formats_->setAccessibleName(label->text());
+    nameChoices(*formats_, label->text());
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 8, 0, 8);
     layout->addWidget(label, 0, 0);

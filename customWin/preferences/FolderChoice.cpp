@@ -1,4 +1,5 @@
 #include "customWin/preferences/FolderChoice.h"
+#include "customWin/Accessibility.h"
 
 #include "customWin/Strings.h"
 
@@ -29,7 +30,7 @@ FolderChoice::FolderChoice(int number, const QString& label, const QString& defa
     // The path is shown whole and can be copied, but a folder is chosen through the menu.
     field_->setReadOnly(true);
     field_->setAccessibleName(label);
-    menu_->setAccessibleName(label);
+    nameChoices(*menu_, label);
     menu_->setIconSize(QSize(kIconSize, kIconSize));
     menu_->setMinimumWidth(220);
 

@@ -1,4 +1,5 @@
 #include "customWin/preferences/accessoryView1p.h"
+#include "customWin/Accessibility.h"
 
 #include "core/export/ExportFormat.h"
 #include "customWin/PercentSlider.h"
@@ -122,7 +123,7 @@ QWidget* accessoryView1p::makeExportingTab() {
     auto* box = groupBox("exportingBox1p", "controlPreferencesExportingBox", nullptr);
     format_ = new QComboBox(box);
     format_->setObjectName(QStringLiteral("exportPopup1p"));
-    format_->setAccessibleName(text("controlPreferencesExportingSelection"));
+    nameChoices(*format_, text("controlPreferencesExportingSelection"));
     format_->setToolTip(text("controlPreferencesExportingSelection"));
     for (const ExportFormatInfo& format : kExportFormats)
         format_->addItem(

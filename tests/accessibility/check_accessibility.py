@@ -8,7 +8,11 @@ Run inside a session bus and an X server, as ctest does:
 The program starts with a fresh settings folder. Once it is on the bus, the check:
   - finds the main window's controls by role and accessible name (menus, document size
     fields, title-bar buttons, scene and backdrop views);
+  - switches the introduction tour's "don't show" box through its accessible toggle action,
+    as a screen reader or voice control does, and finds the switch stored;
   - opens the style library and the find window from the Window menu and finds their lists;
+  - opens the Preferences sheet and a question, and finds every top-level window announced
+    as a window, dialog or alert with a name;
   - walks every window's whole tree and names each control whose accessible name is empty,
     with its role and its path from the application.
 Screen readers see only roles and accessible names, never object names, so every check
@@ -17,6 +21,7 @@ goes by those.
 
 import os
 import signal
+import sqlite3
 import subprocess
 import sys
 import tempfile
@@ -31,6 +36,9 @@ TITLE_BUTTONS = ["Close", "Minimize", "Zoom", "Full screen"]
 SIZE_FIELDS = ["Document width", "Document height"]
 VIEWS = ["Scene", "Document area"]  # the live scene and the backdrop behind it
 SECONDARY = ["Style Library", "Find Planet"]  # Window menu items and their windows' titles
+TOUR = "Introduction"
+SHEETS = [("Preferences…", "Preferences"),  # menu item, and the sheet it opens
+          ("User Guide…", None)]  # a question: any name will do, but one there must be
 
 
 def fail(message):
@@ -172,6 +180,76 @@ def open_secondary_windows(app):
     return wait_until(lambda: secondary_window_problems(app), TREE_TIMEOUT)
 
 
+def top_level_problems(app):
+    """Every window of the program announced as a window, a dialog or an alert, with a name."""
+    announced = {pyatspi.ROLE_FRAME, pyatspi.ROLE_WINDOW, pyatspi.ROLE_DIALOG,
+                 pyatspi.ROLE_ALERT}
+    problems = []
+    for window in children(app):
+        if window.getRole() not in announced or not window.name.strip():
+            problems.append(f"top-level window announced as {window.getRoleName()} "
+                            f"'{window.name}'")
+    return problems
+
+
+def tour_box_problems(app, data_home):
+    """Toggles the tour's box by its action; the General table's Value02 must become "1"."""
+    tours = [child for child in children(app) if child.name == TOUR]
+    boxes = [node for node, _ in walk(tours[0])
+             if node.getRole() == pyatspi.ROLE_CHECK_BOX] if len(tours) == 1 else []
+    if len(boxes) != 1:
+        return [f"no tour window '{TOUR}' with one check box (found {len(tours)} windows)"]
+    actions = boxes[0].queryAction()
+    names = [actions.getName(i) for i in range(actions.nActions)]
+    if "Toggle" not in names or not actions.doAction(names.index("Toggle")):
+        return [f"the tour's box offers no toggle action (it offers {names})"]
+    database = os.path.join(data_home, "orrery", "Data2.data")
+
+    def stored():
+        try:
+            with sqlite3.connect(f"file:{database}?mode=ro", uri=True) as db:
+                row = db.execute("SELECT value FROM General WHERE field='Value02'").fetchone()
+        except sqlite3.Error as error:
+            return [f"cannot read {database}: {error}"]
+        return [] if row and row[0] == "1" else [f"General Value02 is {row}, not '1'"]
+    return wait_until(stored, TREE_TIMEOUT)
+
+
+def sheet_problems(app):
+    """Opens each sheet from its menu item, finds it named, and cancels it."""
+    problems = []
+    for item_name, title in SHEETS:
+        items = find(app, pyatspi.ROLE_MENU_ITEM, item_name)
+        if len(items) != 1 or not items[0].queryAction().doAction(0):
+            problems.append(f"cannot choose the menu item '{item_name}' (found {len(items)})")
+            continue
+
+        def opened():
+            sheets = [child for child in children(app)
+                      if child.getRole() in (pyatspi.ROLE_DIALOG, pyatspi.ROLE_ALERT)]
+            if not sheets:
+                return [f"'{item_name}' opened no dialog or alert"]
+            if title and sheets[0].name != title:
+                return [f"'{item_name}' opened '{sheets[0].name}', not '{title}'"]
+            return top_level_problems(app)
+        found = wait_until(opened, TREE_TIMEOUT)
+        problems += found
+
+        def sheets():
+            return [child for child in children(app)
+                    if child.getRole() in (pyatspi.ROLE_DIALOG, pyatspi.ROLE_ALERT)]
+        # A sheet with a Close button is closed before the next one opens; a question is
+        # left for the program's end.
+        closers = [button for sheet in sheets()
+                   for button in find(sheet, pyatspi.ROLE_PUSH_BUTTON, "Close")]
+        for button in closers:
+            button.queryAction().doAction(0)
+        if closers:
+            problems += wait_until(lambda: [f"'{item_name}' stays open"] if sheets() else [],
+                                   TREE_TIMEOUT)
+    return problems
+
+
 def unnamed_controls(app):
     problems = []
     for node, path in walk(app):
@@ -210,7 +288,11 @@ def main():
             app = find_application(program)
             problems = wait_until(lambda: main_window_problems(app), TREE_TIMEOUT)
             if not problems:
+                problems = tour_box_problems(app, env["XDG_DATA_HOME"])
+            if not problems:
                 problems = open_secondary_windows(app)
+            if not problems:
+                problems = top_level_problems(app) + sheet_problems(app)
             problems += unnamed_controls(app)
             if program.poll() is not None:
                 problems.append(f"the program ended with status {program.returncode} "
@@ -219,7 +301,8 @@ def main():
             end(program)
     if problems:
         fail(f"{len(problems)} problem(s):\n  " + "\n  ".join(problems))
-    print("AccessibilityBus: every control on the bus has a name")
+    print("AccessibilityBus: every window announced by role and name, the tour's box switched "
+          "by its action, every control named")
 
 
 if __name__ == "__main__":
