@@ -1,7 +1,7 @@
 #include "customWin/ExportAccessories.h"
-#include "customWin/Accessibility.h"
 
 #include "core/export/ExportFormat.h"
+#include "customWin/Accessibility.h"
 #include "customWin/PercentSlider.h"
 #include "customWin/Strings.h"
 

@@ -1,6 +1,6 @@
 #include "customWin/preferences/FolderChoice.h"
-#include "customWin/Accessibility.h"
 
+#include "customWin/Accessibility.h"
 #include "customWin/Strings.h"
 
 #include <QComboBox>
