@@ -1,7 +1,7 @@
 #include "customWin/preferences/accessoryView1p.h"
-#include "customWin/Accessibility.h"
 
 #include "core/export/ExportFormat.h"
+#include "customWin/Accessibility.h"
 #include "customWin/PercentSlider.h"
 #include "customWin/Strings.h"
 #include "customWin/preferences/FolderChoice.h"
