@@ -149,9 +149,7 @@ private:
     // Save As through its panel, as a person would type the name.
     void saveAs(const QString& path, bool expectSuccess = true) {
         app().menus().fileSaveAs->trigger();
-        QFileDialog* panel = nullptr;
-        QTRY_VERIFY((panel = qobject_cast<QFileDialog*>(visibleTopLevel("savePanel"))) != nullptr);
-        chooseInPanel(*panel, path);
+        chooseInNextPanel("savePanel", path);
         if (expectSuccess)
             QTRY_COMPARE(app().state().projectpath, path.toStdString());
     }

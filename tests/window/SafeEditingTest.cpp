@@ -324,9 +324,7 @@ private:
     // Save As through its panel, the name typed as a person types it.
     void saveAs(const QString& typed, bool waitForIt = true) {
         app().menus().fileSaveAs->trigger();
-        QFileDialog* panel = nullptr;
-        QTRY_VERIFY((panel = qobject_cast<QFileDialog*>(visibleTopLevel("savePanel"))) != nullptr);
-        chooseInPanel(*panel, typed);
+        chooseInNextPanel("savePanel", typed);
         if (waitForIt)
             QTRY_VERIFY(!hasProgress() && !app().hasUnsavedChanges());
     }
@@ -334,9 +332,7 @@ private:
     void exportPicture(const QString& path) {
         app().menus().fileExport->trigger();
         answer(kFirstButton);
-        QFileDialog* panel = nullptr;
-        QTRY_VERIFY((panel = qobject_cast<QFileDialog*>(visibleTopLevel("savePanel"))) != nullptr);
-        chooseInPanel(*panel, path);
+        chooseInNextPanel("savePanel", path);
         QTRY_VERIFY(QFile::exists(path) && !hasProgress());
     }
 

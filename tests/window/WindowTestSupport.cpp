@@ -99,6 +99,12 @@ QByteArray contents(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+void chooseInNextPanel(const char* panelName, const QString& path) {
+    QDialog* panel = nullptr;
+    QTRY_VERIFY((panel = qobject_cast<QDialog*>(visibleTopLevel(panelName))) != nullptr);
+    chooseInPanel(*panel, path);
+}
+
 QColor pixelOnScreen(QWidget& widget, QPoint point) {
     const QPoint global = widget.mapToGlobal(point);
     const QPixmap shot = widget.screen()->grabWindow(0, global.x(), global.y(), 1, 1);

@@ -62,6 +62,8 @@ template <typename T> T& child(QWidget& window, const char* name) {
 
 // Types the path into a file panel's name field and presses its button, as a person would.
 void chooseInPanel(QDialog& panel, const QString& path);
+// The same in the panel of that name that is opening.
+void chooseInNextPanel(const char* panelName, const QString& path);
 
 // Replaces the field's text by typing, then presses the command key, as a person does.
 void typeInto(QLineEdit& field, const char* text, Qt::Key command);
