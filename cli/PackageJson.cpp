@@ -76,6 +76,15 @@ std::string text(const json& object, const char* key, const std::string& where) 
     return value.get<std::string>();
 }
 
+// The settings list is an XML property list, and XML cannot carry a NUL character: the
+// text would come back cut short.
+std::string settingText(const json& object, const char* key, const std::string& where) {
+    std::string value = text(object, key, where);
+    if (value.find('\0') != std::string::npos)
+        throw Refusal{nameOf(where, key) + " holds a NUL character, which a package cannot store"};
+    return value;
+}
+
 Color colour(const json& object, const char* key, const std::string& where) {
     const json& value = member(object, key, where);
     const std::string name = nameOf(where, key);
@@ -119,8 +128,8 @@ ProjectDocument document(const json& root) {
         throw Refusal{"the package must be a JSON object"};
     ProjectDocument doc;
     const json& size = objectMember(root, "document", "");
-    doc.documentWidth = text(size, "width", "document");
-    doc.documentHeight = text(size, "height", "document");
+    doc.documentWidth = settingText(size, "width", "document");
+    doc.documentHeight = settingText(size, "height", "document");
 
     const std::string background = text(root, "background", "");
     if (!isInteger(background))
@@ -129,7 +138,7 @@ ProjectDocument document(const json& root) {
 
     const json& camera = objectMember(root, "camera", "");
     for (std::size_t i = 0; i < kCameraKeys.size(); ++i)
-        doc.cameraSettings[i] = text(camera, kCameraKeys[i], "camera");
+        doc.cameraSettings[i] = settingText(camera, kCameraKeys[i], "camera");
 
     const json& light = objectMember(root, "light", "");
     for (std::size_t i = 0; i < kLightKeys.size(); ++i)
@@ -146,7 +155,7 @@ ProjectDocument document(const json& root) {
 }
 
 // nlohmann's messages start with "[json.exception.parse_error.101] parse error at ...".
-std::string plainParseError(const std::string& message) {
+std::string plainMessage(const std::string& message) {
     const std::size_t bracket = message.find("] ");
     return bracket == std::string::npos ? message : message.substr(bracket + 2);
 }
@@ -185,8 +194,10 @@ std::optional<ProjectDocument> documentFromJsonText(std::string_view jsonText, s
     json root;
     try {
         root = json::parse(jsonText.begin(), jsonText.end(), limitDepth);
-    } catch (const json::parse_error& e) {
-        error = "not valid JSON: " + plainParseError(e.what());
+    } catch (const json::exception& e) {
+        // A parse error, or a number beyond the range of a double ("1e400"), which the
+        // parser reports as out of range.
+        error = "not valid JSON: " + plainMessage(e.what());
         return std::nullopt;
     }
     if (tooDeep) {
