@@ -49,6 +49,12 @@ struct Refusal {
     std::string reason;
 };
 
+// A value as JSON writes it, in quotes and with control characters escaped, so that a
+// refusal stays one line whatever the value holds.
+std::string quoted(const std::string& value) {
+    return json(value).dump(-1, ' ', false, json::error_handler_t::replace);
+}
+
 // "camera.x", "planets[2].radius"; a key of the root is named alone.
 std::string nameOf(const std::string& where, const char* key) {
     return where.empty() ? std::string(key) : where + "." + key;
@@ -104,7 +110,7 @@ Color colour(const json& object, const char* key, const std::string& where) {
 double lightCoordinate(const json& light, const char* key) {
     const std::string value = text(light, key, "light");
     if (!isNumber(value))
-        throw Refusal{nameOf("light", key) + " must be a number, not \"" + value + "\""};
+        throw Refusal{nameOf("light", key) + " must be a number, not " + quoted(value)};
     const std::string_view digits =
         value.front() == '+' ? std::string_view(value).substr(1) : value;
     double number = 0.0;
@@ -133,7 +139,7 @@ ProjectDocument document(const json& root) {
 
     const std::string background = text(root, "background", "");
     if (!isInteger(background))
-        throw Refusal{"background must be a whole number, not \"" + background + "\""};
+        throw Refusal{"background must be a whole number, not " + quoted(background)};
     doc.background = static_cast<long>(integerValue(background));
 
     const json& camera = objectMember(root, "camera", "");

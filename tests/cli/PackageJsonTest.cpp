@@ -56,6 +56,7 @@ TEST(PackageJson, RefusalsNameTheValue) {
         {"/light/x", "left", "light.x must be a number, not \"left\""},
         {"/light/y", "1" + std::string(400, '0'), "light.y is out of range"},
         {"/background", "2.5", "background must be a whole number, not \"2.5\""},
+        {"/background", "1\n2", "background must be a whole number, not \"1\\n2\""},
         {"/light/color", {1.0, 1.5, 0.0, 1.0}, "light.color must hold numbers from 0 to 1"},
         // The settings list is XML, which cannot carry the NUL.
         {"/camera/zrange", std::string("1\0", 2),
