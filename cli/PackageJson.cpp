@@ -49,6 +49,12 @@ struct Refusal {
     std::string reason;
 };
 
+// A value as JSON writes it, in quotes and with control characters escaped, so that a
+// refusal stays one line whatever the value holds.
+std::string quoted(const std::string& value) {
+    return json(value).dump(-1, ' ', false, json::error_handler_t::replace);
+}
+
 // "camera.x", "planets[2].radius"; a key of the root is named alone.
 std::string nameOf(const std::string& where, const char* key) {
     return where.empty() ? std::string(key) : where + "." + key;
@@ -76,6 +82,15 @@ std::string text(const json& object, const char* key, const std::string& where) 
     return value.get<std::string>();
 }
 
+// The settings list is an XML property list, and XML cannot carry a NUL character: the
+// text would come back cut short.
+std::string settingText(const json& object, const char* key, const std::string& where) {
+    std::string value = text(object, key, where);
+    if (value.find('\0') != std::string::npos)
+        throw Refusal{nameOf(where, key) + " holds a NUL character, which a package cannot store"};
+    return value;
+}
+
 Color colour(const json& object, const char* key, const std::string& where) {
     const json& value = member(object, key, where);
     const std::string name = nameOf(where, key);
@@ -95,7 +110,7 @@ Color colour(const json& object, const char* key, const std::string& where) {
 double lightCoordinate(const json& light, const char* key) {
     const std::string value = text(light, key, "light");
     if (!isNumber(value))
-        throw Refusal{nameOf("light", key) + " must be a number, not \"" + value + "\""};
+        throw Refusal{nameOf("light", key) + " must be a number, not " + quoted(value)};
     const std::string_view digits =
         value.front() == '+' ? std::string_view(value).substr(1) : value;
     double number = 0.0;
@@ -119,17 +134,17 @@ ProjectDocument document(const json& root) {
         throw Refusal{"the package must be a JSON object"};
     ProjectDocument doc;
     const json& size = objectMember(root, "document", "");
-    doc.documentWidth = text(size, "width", "document");
-    doc.documentHeight = text(size, "height", "document");
+    doc.documentWidth = settingText(size, "width", "document");
+    doc.documentHeight = settingText(size, "height", "document");
 
     const std::string background = text(root, "background", "");
     if (!isInteger(background))
-        throw Refusal{"background must be a whole number, not \"" + background + "\""};
+        throw Refusal{"background must be a whole number, not " + quoted(background)};
     doc.background = static_cast<long>(integerValue(background));
 
     const json& camera = objectMember(root, "camera", "");
     for (std::size_t i = 0; i < kCameraKeys.size(); ++i)
-        doc.cameraSettings[i] = text(camera, kCameraKeys[i], "camera");
+        doc.cameraSettings[i] = settingText(camera, kCameraKeys[i], "camera");
 
     const json& light = objectMember(root, "light", "");
     for (std::size_t i = 0; i < kLightKeys.size(); ++i)
@@ -146,7 +161,7 @@ ProjectDocument document(const json& root) {
 }
 
 // nlohmann's messages start with "[json.exception.parse_error.101] parse error at ...".
-std::string plainParseError(const std::string& message) {
+std::string plainMessage(const std::string& message) {
     const std::size_t bracket = message.find("] ");
     return bracket == std::string::npos ? message : message.substr(bracket + 2);
 }
@@ -185,8 +200,10 @@ std::optional<ProjectDocument> documentFromJsonText(std::string_view jsonText, s
     json root;
     try {
         root = json::parse(jsonText.begin(), jsonText.end(), limitDepth);
-    } catch (const json::parse_error& e) {
-        error = "not valid JSON: " + plainParseError(e.what());
+    } catch (const json::exception& e) {
+        // A parse error, or a number beyond the range of a double ("1e400"), which the
+        // parser reports as out of range.
+        error = "not valid JSON: " + plainMessage(e.what());
         return std::nullopt;
     }
     if (tooDeep) {

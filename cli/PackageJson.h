@@ -19,7 +19,8 @@ nlohmann::ordered_json packageJson(const OpenedProject& project, bool withChecks
 
 // Parses JSON text and turns it into what a save writes. Every value is checked for its
 // kind (text, colour, list); a value that the package format cannot hold (a light position
-// that is no number, a background that is no whole number) is refused. Gives none with a
+// that is no number, a background that is no whole number, a document size or camera text
+// with a NUL character) is refused. Gives none with a
 // one-line reason that names the value, for instance "planets[2].radius must be text".
 std::optional<ProjectDocument> documentFromJsonText(std::string_view text, std::string& error);
 

@@ -73,10 +73,12 @@ int exportQuestionFormatRow(const std::vector<std::string>& preferences) {
 }
 
 int compressionPercent(const std::vector<std::string>& preferences) {
-    const std::string value = entry(preferences, 3);
-    if (isUnset(value))
+    // A stored 0 never reads back as 0 ("0" is the unset row), so neither does text whose
+    // whole number is 0, such as a damaged row's bytes: all give the default.
+    const std::int64_t percent = integerValue(entry(preferences, 3));
+    if (percent == 0)
         return kDefaultCompression;
-    return static_cast<int>(std::clamp<std::int64_t>(integerValue(value), 0, 100));
+    return static_cast<int>(std::clamp<std::int64_t>(percent, 0, 100));
 }
 
 bool generalSwitch(const std::vector<std::string>& general, int number) {

@@ -28,7 +28,8 @@ int preferredFormatRow(const std::vector<std::string>& preferences);
 // and "0" or empty selects PNG (row 4). The two readers differ on purpose.
 int exportQuestionFormatRow(const std::vector<std::string>& preferences);
 
-// Preferences 3: compression in per cent, 0 to 100; "0" or empty means 85.
+// Preferences 3: compression in per cent, 0 to 100; "0", empty or text without a number
+// means 85.
 int compressionPercent(const std::vector<std::string>& preferences);
 
 // General 0 to 11: the twelve general switches, by number 1 to 12.

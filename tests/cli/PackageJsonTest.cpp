@@ -56,7 +56,11 @@ TEST(PackageJson, RefusalsNameTheValue) {
         {"/light/x", "left", "light.x must be a number, not \"left\""},
         {"/light/y", "1" + std::string(400, '0'), "light.y is out of range"},
         {"/background", "2.5", "background must be a whole number, not \"2.5\""},
+        {"/background", "1\n2", "background must be a whole number, not \"1\\n2\""},
         {"/light/color", {1.0, 1.5, 0.0, 1.0}, "light.color must hold numbers from 0 to 1"},
+        // The settings list is XML, which cannot carry the NUL.
+        {"/camera/zrange", std::string("1\0", 2),
+         "camera.zrange holds a NUL character, which a package cannot store"},
     };
     for (const auto& c : cases) {
         json value = sampleJson();
@@ -76,6 +80,11 @@ TEST(PackageJson, BrokenOrHostileJson) {
     EXPECT_FALSE(documentFromJsonText("{\"document\": ", error));
     EXPECT_EQ(error.rfind("not valid JSON: ", 0), 0u) << error;
     EXPECT_NE(error.find("line 1"), std::string::npos) << error;
+
+    // A number beyond a double's range is refused like a syntax error, not thrown out of the
+    // reader.
+    EXPECT_FALSE(documentFromJsonText(R"({"background": 1e400})", error));
+    EXPECT_EQ(error, "not valid JSON: number overflow parsing '1e400'");
 
     EXPECT_FALSE(documentFromJsonText("[1, 2]", error));
     EXPECT_EQ(error, "the package must be a JSON object");

@@ -39,6 +39,7 @@ TEST(SettingsReaders, FormatRowsOfTheTwoReadersDifferByOne) {
 TEST(SettingsReaders, CompressionDefaultsTo85) {
     EXPECT_EQ(compressionPercent(preferences("0", "0", "0", "0")), 85);
     EXPECT_EQ(compressionPercent(preferences("0", "0", "0", "")), 85);
+    EXPECT_EQ(compressionPercent(preferences("0", "0", "0", "\x80\xff")), 85); // a damaged row
     EXPECT_EQ(compressionPercent(preferences("0", "0", "0", "40")), 40);
     EXPECT_EQ(compressionPercent(preferences("0", "0", "0", "400")), 100);
     EXPECT_EQ(compressionPercent({"0"}), 85);

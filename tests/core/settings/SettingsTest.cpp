@@ -2,38 +2,17 @@
 #include "core/settings/PreferencesValues.h"
 #include "core/settings/SettingsDatabase.h"
 #include "core/support/Log.h"
+#include "tests/core/settings/SettingsFolder.h"
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
 #include <fstream>
-#include <random>
 
 namespace orrery {
 namespace {
 
 namespace fs = std::filesystem;
-
-class SettingsFiles : public testing::Test {
-protected:
-    void SetUp() override {
-        folder_ = fs::temp_directory_path() /
-                  ("orrery-settings-" + std::to_string(::getpid()) + "-" +
-                   testing::UnitTest::GetInstance()->current_test_info()->name());
-        fs::remove_all(folder_);
-    }
-    void TearDown() override { fs::remove_all(folder_); }
-
-    fs::path appFolder() const { return folder_ / "share" / "orrery"; }
-
-    Settings startUp() {
-        Settings settings(AppPaths::inFolder(appFolder()));
-        runSettingsStartup(settings);
-        return settings;
-    }
-
-    fs::path folder_;
-};
 
 bool allZero(const std::vector<std::string>& values) {
     for (const std::string& v : values)
@@ -116,26 +95,6 @@ TEST_F(SettingsFiles, UnknownFieldChangesNothing) {
     std::vector<std::string> general;
     readSettings(settings.paths().filePath2, generalTable(), general);
     EXPECT_TRUE(allZero(general));
-}
-
-TEST_F(SettingsFiles, RandomBytesGiveAnEmptyListAndALoggedFailedUpdate) {
-    fs::create_directories(appFolder());
-    {
-        std::ofstream out(appFolder() / "Data2.data", std::ios::binary);
-        std::mt19937 random(7);
-        for (int i = 0; i < 4096; ++i)
-            out.put(static_cast<char>(random()));
-    }
-    Settings settings = startUp();
-    EXPECT_TRUE(settings.checkboxArray.empty());
-    EXPECT_EQ(settings.windowArray.size(), 12u); // the other files are unaffected
-
-    std::vector<std::string> messages;
-    const LogSink previous = setLogSink([&](std::string_view m) { messages.emplace_back(m); });
-    settings.saveData2("1", "Value01");
-    setLogSink(previous);
-    ASSERT_EQ(messages.size(), 1u);
-    EXPECT_EQ(messages[0].rfind("Error while creating update statement. '", 0), 0u) << messages[0];
 }
 
 TEST_F(SettingsFiles, AnUnwritableFolderLeavesTheListsEmpty) {
