@@ -3,7 +3,7 @@
 
 Run inside a session bus and an X server, as ctest does:
     dbus-run-session -- xvfb-run -a -s "-noreset -screen 0 1280x1024x24" \
-        python3 check_accessibility.py path/to/orrery
+        python3 check_accessibility.py path/to/orrery path/to/earth-and-moon.kvx
 
 The program starts with a fresh settings folder. Once it is on the bus, the check:
   - finds the main window's controls by role and accessible name (menus, document size
@@ -14,7 +14,9 @@ The program starts with a fresh settings folder. Once it is on the bus, the chec
   - opens the Preferences sheet and a question, and finds every top-level window announced
     as a window, dialog or alert with a name;
   - walks every window's whole tree and names each control whose accessible name is empty,
-    with its role and its path from the application.
+    with its role and its path from the application;
+  - starts the program again with a system, selects a planet's row, presses Ctrl+E and
+    finds the export question.
 Screen readers see only roles and accessible names, never object names, so every check
 goes by those.
 """
@@ -37,6 +39,8 @@ SIZE_FIELDS = ["Document width", "Document height"]
 VIEWS = ["Scene", "Document area"]  # the live scene and the backdrop behind it
 SECONDARY = ["Style Library", "Find Planet"]  # Window menu items and their windows' titles
 TOUR = "Introduction"
+EXPORT_QUESTION = "Choose the format of the exported picture."
+KEYCODE_CONTROL, KEYCODE_E = 37, 26  # Control_L and e in the X server's standard keymap
 SHEETS = [("Preferences…", "Preferences"),  # menu item, and the sheet it opens
           ("User Guide…", None)]  # a question: any name will do, but one there must be
 
@@ -117,7 +121,9 @@ def start_bus(runtime):
         fail("no X display; run inside xvfb-run -a")
     try:
         bus = Gio.bus_get_sync(Gio.BusType.SESSION, None)
-        private = {"XDG_RUNTIME_DIR": runtime}
+        # The registry presses keys for the check on this display.
+        private = {"XDG_RUNTIME_DIR": runtime, "DISPLAY": os.environ["DISPLAY"],
+                   "XAUTHORITY": os.environ.get("XAUTHORITY", "")}
         bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
                       "UpdateActivationEnvironment", GLib.Variant("(a{ss})", (private,)),
                       None, Gio.DBusCallFlags.NONE, 10000, None)
@@ -215,6 +221,29 @@ def tour_box_problems(app, data_home):
     return wait_until(stored, TREE_TIMEOUT)
 
 
+def export_key_problems(app):
+    """With a planet's row selected, Ctrl+E must bring up the export question."""
+    tables = []
+
+    def table_with_rows():
+        tables[:] = find(app, pyatspi.ROLE_TABLE, "Planets")
+        return [] if len(tables) == 1 and tables[0].queryTable().nRows > 0 else ["no planets"]
+    problems = wait_until(table_with_rows, TREE_TIMEOUT)
+    if problems or not tables[0].queryTable().addRowSelection(0):
+        return problems or ["cannot select the first planet's row"]
+    time.sleep(1)  # the window manager hands the keyboard to the window in its own time
+    pyatspi.Registry.generateKeyboardEvent(KEYCODE_CONTROL, None, pyatspi.KEY_PRESS)
+    pyatspi.Registry.generateKeyboardEvent(KEYCODE_E, None, pyatspi.KEY_PRESSRELEASE)
+    pyatspi.Registry.generateKeyboardEvent(KEYCODE_CONTROL, None, pyatspi.KEY_RELEASE)
+
+    def asked():
+        for window in children(app):
+            if window.getRole() == pyatspi.ROLE_ALERT and window.name == EXPORT_QUESTION:
+                return []
+        return ["Ctrl+E with a planet's row selected brought no export question"]
+    return wait_until(asked, TREE_TIMEOUT)
+
+
 def sheet_problems(app):
     """Opens each sheet from its menu item, finds it named, and cancels it."""
     problems = []
@@ -270,8 +299,8 @@ def end(program):
 
 
 def main():
-    if len(sys.argv) != 2:
-        fail("usage: check_accessibility.py PATH_TO_ORRERY")
+    if len(sys.argv) != 3:
+        fail("usage: check_accessibility.py PATH_TO_ORRERY PACKAGE_WITH_PLANETS")
     # Ended from outside (SIGTERM), still end the program on the way out.
     signal.signal(signal.SIGTERM, lambda *_: sys.exit("AccessibilityBus: terminated"))
     with tempfile.TemporaryDirectory(prefix="orrery-a11y-") as home:
@@ -299,10 +328,20 @@ def main():
                                 "during the check")
         finally:
             end(program)
+        # Started again with a system of planets, and the tour switched off above.
+        if not problems:
+            try:
+                program = subprocess.Popen([sys.argv[1], sys.argv[2]], env=env)
+            except OSError as error:
+                fail(f"cannot start {sys.argv[1]}: {error.strerror}")
+            try:
+                problems = export_key_problems(find_application(program))
+            finally:
+                end(program)
     if problems:
         fail(f"{len(problems)} problem(s):\n  " + "\n  ".join(problems))
     print("AccessibilityBus: every window announced by role and name, the tour's box switched "
-          "by its action, every control named")
+          "by its action, every control named, Ctrl+E answered")
 
 
 if __name__ == "__main__":
