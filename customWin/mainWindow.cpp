@@ -61,6 +61,7 @@ void mainWindow::limitSize(bool limited) {
 }
 
 void mainWindow::enterFullScreen() {
+    frameBeforeFullScreen_ = geometry();
     limitSize(false);
     showFullScreen();
 }
@@ -133,10 +134,14 @@ void mainWindow::changeEvent(QEvent* event) {
     // Full screen from the window manager (a key of its own) lifts the limit late; asking
     // again lets the window manager cover the screen.
     if (wasFullScreen_ && maximumWidth() != QWIDGETSIZE_MAX) {
+        frameBeforeFullScreen_ = normalGeometry();
         limitSize(false);
         showFullScreen();
     } else if (!wasFullScreen_) {
+        // Back exactly to the frame it had, which the limit would otherwise cut first.
         limitSize(true);
+        if (frameBeforeFullScreen_.isValid())
+            setGeometry(frameBeforeFullScreen_);
     }
     if (wasFullScreen_)
         emit enteredFullScreen();

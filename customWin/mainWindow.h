@@ -59,6 +59,7 @@ private:
     QTimer liveResize_;
     QTimer ownResizeSettled_;
     bool ownResize_ = false;
+    QRect frameBeforeFullScreen_;
     Qt::Edges cursorEdges_;
     bool wasFullScreen_ = false;
     std::function<bool()> closeGuard_;
