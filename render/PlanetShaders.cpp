@@ -206,6 +206,11 @@ void main() {
     vec3 colour = diffuse.rgb * lightColor * lambert + emission;
     float alpha = diffuse.a * coverage;
     fragColor = vec4(linearToSrgb(clamp(colour, 0.0, 1.0)) * alpha, alpha);
+#ifdef MARK_SOFT
+    // What this colour leaves in the canvas's stencil: 1 where what lies behind still shows
+    // (so the finished pixel needs the division by alpha), 2 where it covers it whole.
+    gl_FragStencilRefARB = alpha < 1.0 ? 1 : 2;
+#endif
 }
 )";
 
@@ -270,9 +275,11 @@ std::string composeFragmentShader(bool overBackdrop) {
            kComposeFragmentShader;
 }
 
-std::string planetFragmentShader(PlanetShape shape, bool textured) {
-    return std::string("#version 330 core\n") + shapeDefines(shape) +
-           (textured ? "#define TEXTURED\n" : "") + "#define RAMP_LENGTH " +
+std::string planetFragmentShader(PlanetShape shape, bool textured, bool marksSoft) {
+    return std::string("#version 330 core\n") +
+           (marksSoft ? "#extension GL_ARB_shader_stencil_export : require\n#define MARK_SOFT\n"
+                      : "") +
+           shapeDefines(shape) + (textured ? "#define TEXTURED\n" : "") + "#define RAMP_LENGTH " +
            std::to_string(kGradientRampLength) + "\n" + kPlanetFragmentShader;
 }
 

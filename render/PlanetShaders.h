@@ -11,8 +11,9 @@ namespace orrery::render {
 std::string planetVertexShader(PlanetShape shape);
 
 // The planets' fragment shader for planets of one shape, with or without gradient and
-// surface textures.
-std::string planetFragmentShader(PlanetShape shape, bool textured);
+// surface textures; with marksSoft, it leaves in the stencil whether each colour it lays
+// down is soft (see PictureFinish), which needs GL_ARB_shader_stencil_export.
+std::string planetFragmentShader(PlanetShape shape, bool textured, bool marksSoft);
 
 extern const char* const kComposeVertexShader;
 // The pass that turns the canvas into the picture, alone or laid over a backdrop.

@@ -4,6 +4,7 @@
 #include "render/Framebuffers.h"
 #include "render/GlObject.h"
 #include "render/GradientRamps.h"
+#include "render/PictureFinish.h"
 #include "render/PlanetDraws.h"
 #include "render/PlanetInstances.h"
 #include "render/PlanetList.h"
@@ -24,8 +25,6 @@ namespace {
 
 constexpr int kRampUnit = 0;
 constexpr int kSurfaceUnit = 1;
-constexpr int kCanvasUnit = 0;
-constexpr int kBackdropUnit = 1;
 constexpr int kNeededGlVersion = 33;
 
 const char* glText(GLenum name) {
@@ -46,12 +45,6 @@ struct PlanetProgram {
     GLint gradientRamps = -1;
     GLint surfaces = -1;
     GLint surfaceWidth = -1;
-};
-
-struct ComposeProgram {
-    GlObject program{GlObject::Kind::program};
-    GLint canvas = -1;
-    GLint backdrop = -1;
 };
 
 float largestPointSize() {
@@ -75,12 +68,19 @@ GlObject makeGradientRampTexture() {
     return texture;
 }
 
+// Which part of the canvas a frame drew again: nothing, a part, or all of it.
+struct DrawnArea {
+    bool any = false;
+    std::optional<PixelRect> part; // none: all of it
+};
+
 } // namespace
 
 // Everything the renderer keeps between frames. Planet data is brought up to date only when
 // the scene (or the eye) changed: patched from the scene's list of changed planets where it
 // can be, else rebuilt. The canvas keeps the planets as last drawn and is drawn again only
-// where the planets changed, or whole when the view changed.
+// where the planets changed, or whole when the view changed; its finished picture is
+// finished again where the planets were drawn, and whole when the backdrop changed.
 class RendererState {
 public:
     explicit RendererState(SurfaceSource source) : surfaces(std::move(source)) {}
@@ -92,17 +92,19 @@ public:
                                      int height, std::string* error);
     std::string description() const;
     void setBackdrop(const Image& backdrop);
-    bool hasBackdrop() const { return static_cast<bool>(backdrop); }
+    bool hasBackdrop() const { return finishing.hasBackdrop(); }
 
 private:
+    bool drawFrame(const Scene& scene, const CameraProjection& camera, int width, int height,
+                   bool overBackdrop, std::string* error);
+    bool drewWithoutError(std::string* error);
     void refreshPlanets(const Scene& scene, const CameraProjection& camera, int width, int height);
     bool patchPlanets(const Scene& scene, const ScreenFrame& frame);
     void upload(const std::vector<PlanetInstance>& planets);
-    void drawPlanets(const CameraProjection& camera, int width, int height);
+    DrawnArea drawPlanets(const CameraProjection& camera, int width, int height);
     void drawInstances(const std::vector<PlanetDraw>& planetDraws, const PlanetUniforms& uniforms);
     void useProgram(const PlanetProgram& shader, const PlanetUniforms& uniforms);
     void pointAttributesAt(std::size_t first);
-    void compose(GLuint target, int width, int height, bool overBackdrop);
 
     // Plain tiny sprites are drawn as plain sprites: without textures the two are one.
     PlanetProgram& program(PlanetShape shape, bool textured) {
@@ -113,26 +115,26 @@ private:
 
     std::array<std::array<PlanetProgram, 2>, 3> programs; // [shape][textured]
     float pointSizeLimit = 1.0f;
-    std::array<ComposeProgram, 2> composing; // [over the backdrop]
+    bool marksSoft = false; // the planet shaders leave soft pixels marked in the stencil
+    PictureFinish finishing;
     // Quads are instances of four vertices; sprites are plain vertices, one per planet, as a
     // software renderer runs its vertex stage once per instance rather than for eight
     // vertices at a time.
     GlObject quadVertices{GlObject::Kind::vertexArray};
     GlObject spriteVertices{GlObject::Kind::vertexArray};
-    GlObject composeVertices{GlObject::Kind::vertexArray};
     GlObject instanceBuffer{GlObject::Kind::buffer};
     std::size_t instanceBufferBytes = 0;
     GlObject gradientRamps{GlObject::Kind::texture};
-    GlObject backdrop{GlObject::Kind::texture}; // none without a backdrop
     SurfaceTextures surfaces;
     Canvas canvas;
-    PictureFramebuffer picture;
 
     PlanetList planets;
     std::vector<PlanetDraw> draws;
     std::optional<PixelBox> changedArea;
     // What the canvas shows was drawn with these; none when it shows nothing to keep.
     std::optional<PlanetUniforms> canvasUniforms;
+    // Whether the canvas's picture is finished over the backdrop; none when it is not finished.
+    std::optional<bool> finishedOverBackdrop;
     // The planets and draws of a part of the canvas drawn again.
     std::vector<PlanetInstance> areaInstances;
     std::vector<PlanetDraw> areaDraws;
@@ -150,6 +152,7 @@ bool RendererState::build(std::string* error) {
                      glText(GL_VERSION);
         return false;
     }
+    marksSoft = epoxy_has_gl_extension("GL_ARB_shader_stencil_export");
     for (const PlanetShape shape :
          {PlanetShape::tinySprite, PlanetShape::sprite, PlanetShape::quad}) {
         for (const bool textured : {false, true}) {
@@ -157,7 +160,7 @@ bool RendererState::build(std::string* error) {
                 continue;
             PlanetProgram& shader = program(shape, textured);
             auto built = buildProgram(planetVertexShader(shape),
-                                      planetFragmentShader(shape, textured), error);
+                                      planetFragmentShader(shape, textured, marksSoft), error);
             if (!built)
                 return false;
             shader.program = std::move(*built);
@@ -174,15 +177,8 @@ bool RendererState::build(std::string* error) {
         }
     }
     pointSizeLimit = largestPointSize();
-    for (const bool overBackdrop : {false, true}) {
-        auto built = buildProgram(kComposeVertexShader, composeFragmentShader(overBackdrop), error);
-        if (!built)
-            return false;
-        ComposeProgram& shader = composing[overBackdrop ? 1 : 0];
-        shader.program = std::move(*built);
-        shader.canvas = glGetUniformLocation(shader.program.id(), "canvas");
-        shader.backdrop = glGetUniformLocation(shader.program.id(), "backdrop");
-    }
+    if (!finishing.build(marksSoft, error))
+        return false;
 
     instanceBuffer.create();
     for (GlObject* vertices : {&quadVertices, &spriteVertices}) {
@@ -195,7 +191,6 @@ bool RendererState::build(std::string* error) {
         pointAttributesAt(0);
     }
     glBindVertexArray(0);
-    composeVertices.create();
 
     gradientRamps = makeGradientRampTexture();
     return true;
@@ -252,7 +247,7 @@ void RendererState::upload(const std::vector<PlanetInstance>& planetsToDraw) {
         glBufferSubData(GL_ARRAY_BUFFER, 0, static_cast<GLsizeiptr>(bytes), planetsToDraw.data());
 }
 
-void RendererState::drawPlanets(const CameraProjection& camera, int width, int height) {
+DrawnArea RendererState::drawPlanets(const CameraProjection& camera, int width, int height) {
     const PlanetUniforms uniforms =
         planetUniforms(camera, light, width, height, surfaces.layerWidth());
     // Drawn with other values, every pixel may differ; with the same, only where planets
@@ -260,18 +255,20 @@ void RendererState::drawPlanets(const CameraProjection& camera, int width, int h
     std::optional<PixelRect> part;
     if (canvasUniforms == uniforms) {
         if (!changedArea)
-            return;
+            return {};
         part = pixelsOf(*changedArea, width, height);
     }
     changedArea.reset();
     canvasUniforms = uniforms;
 
-    glBindFramebuffer(GL_FRAMEBUFFER, canvas.framebuffer());
+    glBindFramebuffer(GL_FRAMEBUFFER, canvas.planetsFramebuffer());
     glViewport(0, 0, width, height);
     glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     glDepthMask(GL_TRUE);
+    glStencilMask(0xFF);
     glClearColor(0.0f, 0.0f, 0.0f, 0.0f);
     glClearDepth(1.0);
+    glClearStencil(0);
     if (part) {
         glEnable(GL_SCISSOR_TEST);
         glScissor(part->x, part->y, part->width, part->height);
@@ -282,10 +279,11 @@ void RendererState::drawPlanets(const CameraProjection& camera, int width, int h
     } else {
         glDisable(GL_SCISSOR_TEST);
     }
-    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT | GL_STENCIL_BUFFER_BIT);
     upload(part ? areaInstances : planets.instances());
     drawInstances(part ? areaDraws : draws, uniforms);
     glDisable(GL_SCISSOR_TEST);
+    return {true, part};
 }
 
 void RendererState::drawInstances(const std::vector<PlanetDraw>& planetDraws,
@@ -298,6 +296,12 @@ void RendererState::drawInstances(const std::vector<PlanetDraw>& planetDraws,
     glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA); // the canvas holds premultiplied colour
     glDisable(GL_CULL_FACE);
     glEnable(GL_PROGRAM_POINT_SIZE);
+    if (marksSoft) {
+        // Each colour that passes the depth test leaves the shader's mark.
+        glEnable(GL_STENCIL_TEST);
+        glStencilFunc(GL_ALWAYS, 0, 0xFF);
+        glStencilOp(GL_KEEP, GL_KEEP, GL_REPLACE);
+    }
 
     glActiveTexture(GL_TEXTURE0 + kRampUnit);
     glBindTexture(GL_TEXTURE_2D, gradientRamps.id());
@@ -317,6 +321,9 @@ void RendererState::drawInstances(const std::vector<PlanetDraw>& planetDraws,
     }
     glBindVertexArray(0);
     glActiveTexture(GL_TEXTURE0);
+    glDisable(GL_STENCIL_TEST);
+    glDisable(GL_DEPTH_TEST);
+    glDisable(GL_BLEND);
 }
 
 void RendererState::useProgram(const PlanetProgram& shader, const PlanetUniforms& uniforms) {
@@ -348,75 +355,66 @@ void RendererState::pointAttributesAt(std::size_t first) {
 }
 
 void RendererState::setBackdrop(const Image& image) {
-    if (image.isNull()) {
-        backdrop.reset();
-        return;
-    }
-    backdrop.create();
-    glBindTexture(GL_TEXTURE_2D, backdrop.id());
-    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
-    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, image.width, image.height, 0, GL_RGBA,
-                 GL_UNSIGNED_BYTE, image.pixels.data());
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
+    finishing.setBackdrop(image);
+    finishedOverBackdrop.reset();
 }
 
-void RendererState::compose(GLuint target, int width, int height, bool overBackdrop) {
-    glBindFramebuffer(GL_FRAMEBUFFER, target);
-    glViewport(0, 0, width, height);
-    glDisable(GL_DEPTH_TEST);
-    glDisable(GL_BLEND);
-    const ComposeProgram& shader = composing[overBackdrop ? 1 : 0];
-    glUseProgram(shader.program.id());
-    glUniform1i(shader.canvas, kCanvasUnit);
-    glActiveTexture(GL_TEXTURE0 + kCanvasUnit);
-    glBindTexture(GL_TEXTURE_2D, canvas.colorTexture());
-    if (overBackdrop) {
-        glUniform1i(shader.backdrop, kBackdropUnit);
-        glActiveTexture(GL_TEXTURE0 + kBackdropUnit);
-        glBindTexture(GL_TEXTURE_2D, backdrop.id());
-        glActiveTexture(GL_TEXTURE0);
-    }
-    glBindVertexArray(composeVertices.id());
-    glDrawArrays(GL_TRIANGLES, 0, 3);
-    glBindVertexArray(0);
-    glUseProgram(0);
-}
-
-bool RendererState::render(const Scene& scene, const CameraProjection& camera, GLuint target,
-                           int width, int height, bool overBackdrop, std::string* error) {
+bool RendererState::drawFrame(const Scene& scene, const CameraProjection& camera, int width,
+                              int height, bool overBackdrop, std::string* error) {
     // Errors left over from whoever used the context before are not ours to report.
     while (glGetError() != GL_NO_ERROR) {
     }
     if (!canvas.ensureSize(width, height, error)) {
         canvasUniforms.reset();
+        finishedOverBackdrop.reset();
         return false;
     }
     refreshPlanets(scene, camera, width, height);
-    drawPlanets(camera, width, height);
-    compose(target, width, height, overBackdrop);
-    if (const GLenum problem = glGetError(); problem != GL_NO_ERROR) {
-        canvasUniforms.reset();
-        if (error != nullptr)
-            *error = problem == GL_OUT_OF_MEMORY
-                         ? "OpenGL ran out of memory while drawing"
-                         : "OpenGL failed while drawing (error " + std::to_string(problem) + ")";
-        return false;
-    }
+    const DrawnArea drawn = drawPlanets(camera, width, height);
+    if (finishedOverBackdrop != overBackdrop)
+        finishing.finish(canvas, std::nullopt, width, height, overBackdrop);
+    else if (drawn.any)
+        finishing.finish(canvas, drawn.part, width, height, overBackdrop);
+    finishedOverBackdrop = overBackdrop;
     return true;
+}
+
+// Whether OpenGL failed since drawFrame began; then the canvas is to be drawn afresh.
+bool RendererState::drewWithoutError(std::string* error) {
+    const GLenum problem = glGetError();
+    if (problem == GL_NO_ERROR)
+        return true;
+    canvasUniforms.reset();
+    finishedOverBackdrop.reset();
+    if (error != nullptr)
+        *error = problem == GL_OUT_OF_MEMORY
+                     ? "OpenGL ran out of memory while drawing"
+                     : "OpenGL failed while drawing (error " + std::to_string(problem) + ")";
+    return false;
+}
+
+bool RendererState::render(const Scene& scene, const CameraProjection& camera, GLuint target,
+                           int width, int height, bool overBackdrop, std::string* error) {
+    if (!drawFrame(scene, camera, width, height, overBackdrop, error))
+        return false;
+    glBindFramebuffer(GL_READ_FRAMEBUFFER, canvas.pictureFramebuffer());
+    glBindFramebuffer(GL_DRAW_FRAMEBUFFER, target);
+    glBlitFramebuffer(0, 0, width, height, 0, 0, width, height, GL_COLOR_BUFFER_BIT, GL_NEAREST);
+    glBindFramebuffer(GL_FRAMEBUFFER, target);
+    return drewWithoutError(error);
 }
 
 std::optional<Image> RendererState::renderImage(const Scene& scene, const CameraProjection& camera,
                                                 int width, int height, std::string* error) {
-    if (!picture.ensureSize(width, height, error))
-        return std::nullopt;
-    if (!render(scene, camera, picture.framebuffer(), width, height, false, error))
+    if (!drawFrame(scene, camera, width, height, false, error))
         return std::nullopt;
     Image image(width, height);
-    glBindFramebuffer(GL_READ_FRAMEBUFFER, picture.framebuffer());
+    glBindFramebuffer(GL_READ_FRAMEBUFFER, canvas.pictureFramebuffer());
     glPixelStorei(GL_PACK_ALIGNMENT, 1);
     glReadPixels(0, 0, width, height, GL_RGBA, GL_UNSIGNED_BYTE, image.pixels.data());
     glBindFramebuffer(GL_READ_FRAMEBUFFER, 0);
+    if (!drewWithoutError(error))
+        return std::nullopt;
     // OpenGL reads bottom row first.
     for (int top = 0, bottom = height - 1; top < bottom; ++top, --bottom)
         std::swap_ranges(image.pixel(0, top), image.pixel(0, top) + image.stride(),

@@ -15,7 +15,7 @@ std::unique_ptr<FloorPass> FloorPass::create(const SceneView& view, int width, i
                                              std::string* error) {
     auto built =
         render::buildProgram(render::planetVertexShader(render::PlanetShape::quad),
-                             render::planetFragmentShader(render::PlanetShape::quad, false), error);
+                             render::planetFragmentShader(render::PlanetShape::quad, false, false), error);
     if (!built)
         return nullptr;
     std::unique_ptr<FloorPass> pass(new FloorPass());
