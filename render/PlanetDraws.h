@@ -63,6 +63,7 @@ struct PlanetDraw {
     std::size_t count = 0;
     bool textured = false; // with the texture work, or plain
     PlanetShape shape = PlanetShape::quad;
+    bool alone = false; // nothing else drawn touches its planets' pixels (see PassRole)
 };
 
 // Fewer planets in a row than this, among ones that need the more general shader or shape,

@@ -53,10 +53,9 @@ float largestPointSize() {
     return range[1];
 }
 
-GlObject makeGradientRampTexture() {
+GlObject makeGradientRampTexture(const std::vector<std::uint8_t>& pixels) {
     GlObject texture(GlObject::Kind::texture);
     texture.create();
-    const std::vector<std::uint8_t> pixels = gradientRampPixels();
     glBindTexture(GL_TEXTURE_2D, texture.id());
     glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
     glTexImage2D(GL_TEXTURE_2D, 0, GL_SRGB8_ALPHA8, kGradientRampLength, kGradientRampCount, 0,
@@ -66,6 +65,15 @@ GlObject makeGradientRampTexture() {
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
     return texture;
+}
+
+// Whether every sample of each ramp is opaque.
+std::vector<bool> opaqueRows(const std::vector<std::uint8_t>& pixels) {
+    std::vector<bool> opaque(kGradientRampCount, true);
+    for (std::size_t i = 3; i < pixels.size(); i += 4)
+        if (pixels[i] != 255)
+            opaque[i / 4 / kGradientRampLength] = false;
+    return opaque;
 }
 
 // Which part of the canvas a frame drew again: nothing, a part, or all of it.
@@ -125,6 +133,7 @@ private:
     GlObject instanceBuffer{GlObject::Kind::buffer};
     std::size_t instanceBufferBytes = 0;
     GlObject gradientRamps{GlObject::Kind::texture};
+    std::vector<bool> opaqueRamps;
     SurfaceTextures surfaces;
     Canvas canvas;
 
@@ -135,9 +144,14 @@ private:
     std::optional<PlanetUniforms> canvasUniforms;
     // Whether the canvas's picture is finished over the backdrop; none when it is not finished.
     std::optional<bool> finishedOverBackdrop;
-    // The planets and draws of a part of the canvas drawn again.
-    std::vector<PlanetInstance> areaInstances;
-    std::vector<PlanetDraw> areaDraws;
+    // The planets and draws of a pass over the whole canvas, kept while the planets are,
+    // and of a part of it drawn again.
+    std::vector<PlanetInstance> wholeInstances;
+    std::vector<PlanetDraw> wholeDraws;
+    bool wholePassKept = false;
+    bool bufferHoldsWholePass = false;
+    std::vector<PlanetInstance> partInstances;
+    std::vector<PlanetDraw> partDraws;
     std::optional<SceneLight> light;
     std::uint64_t sceneId = 0;
     std::uint64_t sceneRevision = 0;
@@ -192,7 +206,9 @@ bool RendererState::build(std::string* error) {
     }
     glBindVertexArray(0);
 
-    gradientRamps = makeGradientRampTexture();
+    const std::vector<std::uint8_t> rampPixels = gradientRampPixels();
+    gradientRamps = makeGradientRampTexture(rampPixels);
+    opaqueRamps = opaqueRows(rampPixels);
     return true;
 }
 
@@ -214,8 +230,11 @@ void RendererState::refreshPlanets(const Scene& scene, const CameraProjection& c
         surfaces.endScene(largestSurfaceRadius(planets.instances(), frame));
     }
     light = findLight(scene.rootNode());
-    groupPlanetDraws(planets.instances(), frame, draws);
-    changedArea = planets.takeChangedArea(draws);
+    if (planets.hasChanges()) {
+        groupPlanetDraws(planets.instances(), frame, draws);
+        changedArea = planets.takeChangedArea(draws);
+        wholePassKept = false;
+    }
     sceneId = scene.id();
     sceneRevision = scene.revision();
     sceneEye = eye;
@@ -229,9 +248,10 @@ bool RendererState::patchPlanets(const Scene& scene, const ScreenFrame& frame) {
     const auto changes = scene.changesSince(sceneRevision);
     if (!changes)
         return false;
-    return planets.patch(scene.rootNode(), *changes, [this](const std::string& name) {
-        return surfaces.heldLayer(name);
-    }) && surfaces.keepsDetailFor(largestSurfaceRadius(planets.instances(), frame));
+    return planets.patch(scene.rootNode(), *changes,
+                         [this](const std::string& name) { return surfaces.heldLayer(name); }) &&
+           (!planets.hasChanges() ||
+            surfaces.keepsDetailFor(largestSurfaceRadius(planets.instances(), frame)));
 }
 
 void RendererState::upload(const std::vector<PlanetInstance>& planetsToDraw) {
@@ -269,19 +289,25 @@ DrawnArea RendererState::drawPlanets(const CameraProjection& camera, int width, 
     glClearColor(0.0f, 0.0f, 0.0f, 0.0f);
     glClearDepth(1.0);
     glClearStencil(0);
+    const std::array<double, 16> projection = camera.matrix();
+    const DepthFrame depthFrame{sceneFrame, projection[10], projection[14]};
     if (part) {
         glEnable(GL_SCISSOR_TEST);
         glScissor(part->x, part->y, part->width, part->height);
-        const PixelBox area{static_cast<double>(part->x), static_cast<double>(part->y),
-                            static_cast<double>(part->x + part->width),
-                            static_cast<double>(part->y + part->height)};
-        planets.planetsIn(area, draws, areaInstances, areaDraws);
+        planets.passOver(*part, draws, depthFrame, opaqueRamps, partInstances, partDraws);
+        upload(partInstances);
+        bufferHoldsWholePass = false;
     } else {
         glDisable(GL_SCISSOR_TEST);
+        if (!wholePassKept)
+            planets.passOver(PixelRect{0, 0, width, height}, draws, depthFrame, opaqueRamps,
+                             wholeInstances, wholeDraws);
+        if (!wholePassKept || !bufferHoldsWholePass)
+            upload(wholeInstances);
+        wholePassKept = bufferHoldsWholePass = true;
     }
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT | GL_STENCIL_BUFFER_BIT);
-    upload(part ? areaInstances : planets.instances());
-    drawInstances(part ? areaDraws : draws, uniforms);
+    drawInstances(part ? partDraws : wholeDraws, uniforms);
     glDisable(GL_SCISSOR_TEST);
     return {true, part};
 }
@@ -290,9 +316,7 @@ void RendererState::drawInstances(const std::vector<PlanetDraw>& planetDraws,
                                   const PlanetUniforms& uniforms) {
     if (planetDraws.empty())
         return;
-    glEnable(GL_DEPTH_TEST);
     glDepthFunc(GL_LESS);
-    glEnable(GL_BLEND);
     glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA); // the canvas holds premultiplied colour
     glDisable(GL_CULL_FACE);
     glEnable(GL_PROGRAM_POINT_SIZE);
@@ -308,6 +332,15 @@ void RendererState::drawInstances(const std::vector<PlanetDraw>& planetDraws,
     glActiveTexture(GL_TEXTURE0 + kSurfaceUnit);
     glBindTexture(GL_TEXTURE_2D_ARRAY, surfaces.texture());
     for (const PlanetDraw& draw : planetDraws) {
+        // A planet alone on the cleared canvas needs neither: every colour of it passes, and
+        // blending over nothing leaves the colour itself.
+        if (draw.alone) {
+            glDisable(GL_DEPTH_TEST);
+            glDisable(GL_BLEND);
+        } else {
+            glEnable(GL_DEPTH_TEST);
+            glEnable(GL_BLEND);
+        }
         useProgram(program(draw.shape, draw.textured), uniforms);
         const auto count = static_cast<GLsizei>(draw.count);
         if (draw.shape != PlanetShape::quad) {

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "render/PlanetDraws.h"
+#include "render/PlanetInstances.h"
+#include "render/PlanetUniforms.h"
+
+#include <cstdint>
+#include <vector>
+
+// Which planets a pass must draw at all, and which of them it may draw the cheap way.
+namespace orrery::render {
+
+// The picture as the passes see it: its frame, and how a depth in front of the eye becomes
+// the depth buffer's value (clip z = depthA * z + depthB and clip w = -z for the eye's z).
+struct DepthFrame {
+    ScreenFrame screen;
+    double depthA = 0.0;
+    double depthB = 0.0;
+};
+
+// What a pass does with a planet that may touch its area.
+enum class PassRole : std::uint8_t {
+    // Nearer planets cover every pixel of the area it could touch, in a way that drawing it
+    // cannot change any pixel: it is left out.
+    hidden,
+    // No other drawn planet touches its pixels in the area: drawn without depth test or
+    // blending, which lay down the same bytes on a cleared canvas.
+    alone,
+    // Drawn in order, with depth test and blending.
+    shared,
+};
+
+// A planet that may touch the pass's area, with what the roles need to know of it.
+struct PassCandidate {
+    const PlanetInstance* planet = nullptr;
+    PixelBox reach;      // the pixels it may touch, edge included
+    bool opaque = false; // its colour covers whatever lies behind it, where its disc does
+};
+
+// The role of each candidate, given in drawing order, in a pass that draws `area`; replaces
+// the contents of `roles`. A planet is hidden only where the outcome of drawing every
+// planet in order with the depth test (nearer wins, the first of equals) and blending
+// provably leaves no trace of it: it lies wholly behind a nearer opaque planet's inner disc
+// at every pixel, and no soft or translucent colour between the two could let it show.
+void assignPassRoles(const std::vector<PassCandidate>& candidates, const DepthFrame& frame,
+                     const PixelRect& area, std::vector<PassRole>& roles);
+
+} // namespace orrery::render
