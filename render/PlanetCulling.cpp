@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <tuple>
 
 namespace orrery::render {
 namespace {
 
-// The roles are worked out on blocks of pixels: small enough to follow a planet's inner
-// disc, large enough that the bookkeeping costs far less than the drawing it spares.
+// The roles are worked out on blocks of 8 x 8 pixels, one bit a pixel.
 constexpr int kBlock = 8;
 // How far apart two depth buffer values must be before one counts as behind the other: far
 // more than the shader's rounding and the buffer's 24 bits, far less than planets lie apart.
@@ -18,20 +18,20 @@ constexpr double kDepthMargin = 4e-6;
 constexpr double kInnerMargin = 1.5;
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-// Blocks from left to right and bottom to top, inclusive; none when right < left.
-struct Blocks {
+// Pixels from left to right and bottom to top, inclusive; none when right < left.
+struct Span {
     int left = 0;
     int bottom = 0;
     int right = -1;
     int top = -1;
+    bool empty() const { return right < left || top < bottom; }
 };
 
 // What the roles need of a planet, as depth buffer values.
 struct Depths {
     double nearest = -kInfinity; // no colour of it lies nearer; -inf: it reaches the eye
     double farthest = kInfinity; // no colour of it lies farther
-    double innerFarthest = kInfinity;
-    double innerCosine = 2.0; // of the inner disc's angular radius; above 1 for none
+    double innerCosine = 2.0;    // of the inner disc's angular radius; above 1 for none
 };
 
 double bufferDepth(const DepthFrame& frame, double eyeDepth) {
@@ -52,144 +52,284 @@ Depths depthsOf(const PlanetInstance& planet, bool opaque, const DepthFrame& fra
     const double distance = std::sqrt(x * x + y * y + z * z);
     const double pixelAngle = 2.0 * frame.screen.ndcToRayY / frame.screen.height;
     const double innerSine = radius / distance - kInnerMargin * pixelAngle;
-    if (!opaque || !(innerSine > 0.0))
-        return depths;
-    // The visible cap ends at the circle where the eye's tangent cone touches the sphere;
-    // its farthest point lies on that circle.
-    const double tangent2 = distance * distance - radius * radius;
-    const double axisZ = z / distance;
-    const double rimDepth =
-        -z * tangent2 / (distance * distance) +
-        radius * std::sqrt(tangent2) / distance * std::sqrt(std::max(0.0, 1.0 - axisZ * axisZ));
-    depths.innerFarthest = bufferDepth(frame, rimDepth) + kDepthMargin;
-    depths.innerCosine = std::sqrt(1.0 - innerSine * innerSine);
+    if (opaque && innerSine > 0.0)
+        depths.innerCosine = std::sqrt(1.0 - innerSine * innerSine);
     return depths;
 }
 
-Blocks blocksOf(const PixelBox& reach, const PixelRect& area) {
-    const double left = std::isnan(reach.left) ? -kInfinity : reach.left;
-    const double bottom = std::isnan(reach.bottom) ? -kInfinity : reach.bottom;
-    const double right = std::isnan(reach.right) ? kInfinity : reach.right;
-    const double top = std::isnan(reach.top) ? kInfinity : reach.top;
-    const double x0 = std::max(left, static_cast<double>(area.x));
-    const double y0 = std::max(bottom, static_cast<double>(area.y));
-    const double x1 = std::min(right, static_cast<double>(area.x + area.width));
-    const double y1 = std::min(top, static_cast<double>(area.y + area.height));
-    if (!(x0 < x1 && y0 < y1))
-        return {};
-    // Every pixel the box overlaps.
-    return {(static_cast<int>(std::floor(x0)) - area.x) / kBlock,
-            (static_cast<int>(std::floor(y0)) - area.y) / kBlock,
-            (static_cast<int>(std::ceil(x1)) - 1 - area.x) / kBlock,
-            (static_cast<int>(std::ceil(y1)) - 1 - area.y) / kBlock};
+// The pixels of the area that a box overlaps.
+Span pixelsOf(const PixelBox& reach, const PixelRect& area) {
+    const auto low = [](double value, int limit) {
+        return std::isnan(value) ? limit : static_cast<int>(std::max(std::floor(value), -1e9));
+    };
+    const auto high = [](double value, int limit) {
+        return std::isnan(value) ? limit : static_cast<int>(std::min(std::ceil(value), 1e9)) - 1;
+    };
+    return {std::max(low(reach.left, area.x), area.x), std::max(low(reach.bottom, area.y), area.y),
+            std::min(high(reach.right, area.x + area.width), area.x + area.width - 1),
+            std::min(high(reach.top, area.y + area.height), area.y + area.height - 1)};
 }
 
-// The block grid over the area, each block with a value.
-template <typename Value> class BlockGrid {
+// For each pixel row of a span, the columns whose pixel centres lie within the planet's inner
+// disc: a cone around the direction of its centre, met by the rays through the row in an
+// interval.
+void innerRows(const PlanetInstance& planet, double cosine, const Span& span,
+               const ScreenFrame& screen, std::vector<std::pair<int, int>>& rows) {
+    rows.clear();
+    const double cx = planet.center[0];
+    const double cy = planet.center[1];
+    const double cz = planet.center[2];
+    const double k = cosine * cosine * (cx * cx + cy * cy + cz * cz);
+    const double a = cx * cx - k;
+    for (int py = span.bottom; py <= span.top; ++py) {
+        const double ry = ((py + 0.5) / screen.height * 2.0 - 1.0) * screen.ndcToRayY;
+        // The ray (rx, ry, -1) lies within the cone where (rx cx + e)^2 >= k |ray|^2 and
+        // rx cx + e >= 0.
+        const double e = ry * cy - cz;
+        const double b = 2.0 * cx * e;
+        const double c = e * e - k * (ry * ry + 1.0);
+        const double discriminant = b * b - 4.0 * a * c;
+        std::pair<int, int> columns{0, -1};
+        if (a < 0.0 && discriminant > 0.0) {
+            const double root = std::sqrt(discriminant);
+            const double lowRay = (-b + root) / (2.0 * a);
+            const double highRay = (-b - root) / (2.0 * a);
+            if ((lowRay + highRay) * 0.5 * cx + e > 0.0) {
+                const auto centre = [&](double rx) {
+                    return (rx / screen.ndcToRayX + 1.0) * 0.5 * screen.width - 0.5;
+                };
+                columns = {static_cast<int>(std::max(std::ceil(centre(lowRay)), -1e9)),
+                           static_cast<int>(std::min(std::floor(centre(highRay)), 1e9))};
+            }
+        }
+        rows.push_back(columns);
+    }
+}
+
+// The farthest depth of a planet's inner disc within a block of pixels: the ray through a
+// pixel at angle a from the centre's direction meets the sphere d cos a - sqrt(r^2 - d^2
+// sin^2 a) along, which grows with a, and lies as deep as that times the cosine of the ray's
+// angle to the view.
+double innerFarthest(const PlanetInstance& planet, double innerCosine, const Span& pixels,
+                     const DepthFrame& frame) {
+    const ScreenFrame& screen = frame.screen;
+    const double cx = planet.center[0];
+    const double cy = planet.center[1];
+    const double cz = planet.center[2];
+    const double distance = std::sqrt(cx * cx + cy * cy + cz * cz);
+    const double radius = planet.radius;
+    const auto rayX = [&](int px) {
+        return ((px + 0.5) / screen.width * 2.0 - 1.0) * screen.ndcToRayX;
+    };
+    const auto rayY = [&](int py) {
+        return ((py + 0.5) / screen.height * 2.0 - 1.0) * screen.ndcToRayY;
+    };
+    // The widest angle is at a corner, and never beyond the inner disc.
+    double cosine = 1.0;
+    for (const int px : {pixels.left, pixels.right})
+        for (const int py : {pixels.bottom, pixels.top}) {
+            const double rx = rayX(px);
+            const double ry = rayY(py);
+            cosine = std::min(cosine, (rx * cx + ry * cy - cz) /
+                                          (std::sqrt(rx * rx + ry * ry + 1.0) * distance));
+        }
+    cosine = std::max(cosine, innerCosine);
+    const double sine2 = std::max(0.0, 1.0 - cosine * cosine);
+    const double along =
+        distance * cosine - std::sqrt(std::max(0.0, radius * radius - distance * distance * sine2));
+    // The ray nearest the view's axis is the one through the pixel nearest the middle.
+    const double nearX = std::clamp(0.0, rayX(pixels.left), rayX(pixels.right));
+    const double nearY = std::clamp(0.0, rayY(pixels.bottom), rayY(pixels.top));
+    const double eyeDepth = along / std::sqrt(nearX * nearX + nearY * nearY + 1.0);
+    return bufferDepth(frame, eyeDepth) + kDepthMargin;
+}
+
+// What lies behind each pixel of the area, with a summary per block of pixels so that most
+// planets are found hidden without looking at their pixels one by one.
+class CoverGrid {
 public:
-    BlockGrid(const PixelRect& area, Value initial)
+    explicit CoverGrid(const PixelRect& area)
         : area_(area), columns_((area.width + kBlock - 1) / kBlock),
-          values_(static_cast<std::size_t>(columns_) * ((area.height + kBlock - 1) / kBlock),
-                  initial) {}
+          rows_((area.height + kBlock - 1) / kBlock),
+          behind_(static_cast<std::size_t>(area.width) * area.height, kFarAway),
+          blockBehind_(static_cast<std::size_t>(columns_) * rows_, kFarAway),
+          drawn_(blockBehind_.size(), 0) {}
 
-    Value& at(int column, int row) {
-        return values_[static_cast<std::size_t>(row) * columns_ + column];
+    // Whether every pixel of the span lies behind nothing nearer than `nearest` can change.
+    bool hides(const Span& span, double nearest) const {
+        const auto limit = static_cast<float>(nearest);
+        return eachBlock(span, [&](int column, int row, const Span& pixels) {
+            if (blockBehind_[blockAt(column, row)] < limit)
+                return true;
+            for (int y = pixels.bottom; y <= pixels.top; ++y) {
+                const float* depth = &behind_[pixelAt(pixels.left, y)];
+                for (int x = pixels.left; x <= pixels.right; ++x, ++depth)
+                    if (!(*depth < limit))
+                        return false;
+            }
+            return true;
+        });
     }
 
-    // Calls visit(value, column, row) for each block until it returns false; whether none did.
-    template <typename Visit> bool all(const Blocks& blocks, Visit visit) {
-        for (int row = blocks.bottom; row <= blocks.top; ++row)
-            for (int column = blocks.left; column <= blocks.right; ++column)
-                if (!visit(at(column, row), column, row))
-                    return false;
-        return true;
+    // Takes note of a planet drawn before the ones seen so far: at the pixels of its inner
+    // disc (the rows' column intervals), an opaque colour no farther than innerFarthest(block
+    // span) gives; elsewhere in the span, a colour no nearer than `nearest` that may let what
+    // lies behind show, or none.
+    // Returns the box of the span's pixels where the planet is not hidden.
+    template <typename InnerFarthest>
+    Span note(const Span& span, const std::vector<std::pair<int, int>>& innerRows, double nearest,
+              InnerFarthest innerFarthest) {
+        Span shown{span.right + 1, span.top + 1, span.left - 1, span.bottom - 1};
+        const auto limit = static_cast<float>(nearest);
+        eachBlock(span, [&](int column, int row, const Span& pixels) {
+            const bool blockHidden = blockBehind_[blockAt(column, row)] < limit;
+            float inner = kFarAway;
+            bool innerKnown = false;
+            for (int y = pixels.bottom; y <= pixels.top; ++y) {
+                int innerLeft = 0;
+                int innerRight = -1;
+                if (!innerRows.empty())
+                    std::tie(innerLeft, innerRight) =
+                        innerRows[static_cast<std::size_t>(y - span.bottom)];
+                float* depth = &behind_[pixelAt(pixels.left, y)];
+                for (int x = pixels.left; x <= pixels.right; ++x, ++depth) {
+                    if (!blockHidden && !(*depth < limit)) {
+                        shown.left = std::min(shown.left, x);
+                        shown.right = std::max(shown.right, x);
+                        shown.bottom = std::min(shown.bottom, y);
+                        shown.top = std::max(shown.top, y);
+                    }
+                    if (x >= innerLeft && x <= innerRight) {
+                        if (!innerKnown) {
+                            inner = static_cast<float>(innerFarthest(pixels));
+                            innerKnown = true;
+                        }
+                        *depth = std::min(*depth, inner);
+                    } else if (nearest <= *depth) {
+                        *depth = kFarAway;
+                    }
+                }
+            }
+            float& summary = blockBehind_[blockAt(column, row)];
+            summary = 0.0f;
+            const Span whole = blockPixels(column, row);
+            for (int y = whole.bottom; y <= whole.top; ++y) {
+                const float* depth = &behind_[pixelAt(whole.left, y)];
+                summary = std::max(summary,
+                                   *std::max_element(depth, depth + whole.right - whole.left + 1));
+            }
+            return true;
+        });
+        return shown;
     }
 
-    // Whether the ray through every pixel centre of the block lies within `cosine` of the
-    // direction of `center`: the cone is convex, so the block's four corner pixels tell.
-    bool within(int column, int row, const PlanetInstance& planet, double cosine,
-                const ScreenFrame& screen) const {
-        const double cx = planet.center[0];
-        const double cy = planet.center[1];
-        const double cz = planet.center[2];
-        const double distance = std::sqrt(cx * cx + cy * cy + cz * cz);
+    // Counts a planet drawn in the span's blocks, up to two.
+    void countDrawn(const Span& span) {
+        eachBlock(span, [&](int column, int row, const Span&) {
+            std::uint8_t& count = drawn_[blockAt(column, row)];
+            count = static_cast<std::uint8_t>(std::min(count + 1, 2));
+            return true;
+        });
+    }
+
+    // Whether the span's blocks hold no other drawn planet.
+    bool drawnAlone(const Span& span) const {
+        return eachBlock(span, [&](int column, int row, const Span&) {
+            return drawn_[blockAt(column, row)] == 1;
+        });
+    }
+
+private:
+    static constexpr float kFarAway = std::numeric_limits<float>::infinity();
+
+    std::size_t blockAt(int column, int row) const {
+        return static_cast<std::size_t>(row) * columns_ + column;
+    }
+    std::size_t pixelAt(int x, int y) const {
+        return static_cast<std::size_t>(y - area_.y) * area_.width + (x - area_.x);
+    }
+    Span blockPixels(int column, int row) const {
         const int x0 = area_.x + column * kBlock;
         const int y0 = area_.y + row * kBlock;
-        const int x1 = std::min(x0 + kBlock, area_.x + area_.width) - 1;
-        const int y1 = std::min(y0 + kBlock, area_.y + area_.height) - 1;
-        for (const int px : {x0, x1}) {
-            for (const int py : {y0, y1}) {
-                const double rx = ((px + 0.5) / screen.width * 2.0 - 1.0) * screen.ndcToRayX;
-                const double ry = ((py + 0.5) / screen.height * 2.0 - 1.0) * screen.ndcToRayY;
-                const double along = rx * cx + ry * cy - cz;
-                if (along < cosine * std::sqrt(rx * rx + ry * ry + 1.0) * distance)
+        return {x0, y0, std::min(x0 + kBlock, area_.x + area_.width) - 1,
+                std::min(y0 + kBlock, area_.y + area_.height) - 1};
+    }
+
+    // Calls visit(column, row, the span's pixels in the block) for each block the span
+    // touches until it returns false; whether none did.
+    template <typename Visit> bool eachBlock(const Span& span, Visit visit) const {
+        if (span.empty())
+            return true;
+        for (int row = (span.bottom - area_.y) / kBlock; row <= (span.top - area_.y) / kBlock;
+             ++row) {
+            for (int column = (span.left - area_.x) / kBlock;
+                 column <= (span.right - area_.x) / kBlock; ++column) {
+                const Span block = blockPixels(column, row);
+                const Span pixels{std::max(span.left, block.left),
+                                  std::max(span.bottom, block.bottom),
+                                  std::min(span.right, block.right), std::min(span.top, block.top)};
+                if (!visit(column, row, pixels))
                     return false;
             }
         }
         return true;
     }
 
-private:
     PixelRect area_;
     int columns_;
-    std::vector<Value> values_;
+    int rows_;
+    std::vector<float> behind_;      // per pixel: nothing drawn earlier shows behind this depth
+    std::vector<float> blockBehind_; // per block: the farthest of its pixels'
+    std::vector<std::uint8_t> drawn_;
 };
 
 } // namespace
 
 void assignPassRoles(const std::vector<PassCandidate>& candidates, const DepthFrame& frame,
-                     const PixelRect& area, std::vector<PassRole>& roles) {
-    roles.assign(candidates.size(), PassRole::shared);
-    if (area.width <= 0 || area.height <= 0) {
-        roles.assign(candidates.size(), PassRole::hidden);
+                     const PixelRect& area, std::vector<PassPlanet>& plan) {
+    plan.assign(candidates.size(), PassPlanet{PassRole::hidden, {}});
+    if (area.width <= 0 || area.height <= 0)
         return;
-    }
-    std::vector<Blocks> spans(candidates.size());
+    std::vector<Span> spans(candidates.size());
     std::vector<Depths> depths(candidates.size());
+    std::vector<std::pair<int, int>> rows;
+    const auto rect = [](const Span& span) {
+        return PixelRect{span.left, span.bottom, span.right - span.left + 1,
+                         span.top - span.bottom + 1};
+    };
 
-    // Nearest first. Each block keeps a depth behind which nothing drawn before the planets
-    // seen so far can show, or infinity. An opaque planet's inner disc covering the whole
-    // block lowers it to the disc's farthest depth: its colour is laid down whole and, as the
-    // last of the planets drawn from there on that comes nearer, passes the depth test. Any
-    // other colour of a planet that may come nearer than the block's depth could let what
-    // lies behind show through, and resets it.
-    BlockGrid<double> behind(area, kInfinity);
+    // Nearest first. Each pixel keeps a depth behind which nothing drawn before the planets
+    // seen so far can show; a planet lying behind it at every pixel it touches is hidden.
+    // Why the depth holds: an opaque planet's inner disc lays its colour down whole, and
+    // drawn before all the planets seen so far, it passes the depth test unless one of those
+    // comes nearer; then that one's colour either covers it whole or, soft or translucent,
+    // resets the depth.
+    CoverGrid grid(area);
     for (std::size_t i = candidates.size(); i-- > 0;) {
         const PassCandidate& candidate = candidates[i];
-        spans[i] = blocksOf(candidate.reach, area);
+        spans[i] = pixelsOf(candidate.reach, area);
         depths[i] = depthsOf(*candidate.planet, candidate.opaque, frame);
         const Depths& d = depths[i];
-        const bool covered =
-            behind.all(spans[i], [&](double depth, int, int) { return depth < d.nearest; });
-        if (covered) {
-            roles[i] = PassRole::hidden;
+        if (spans[i].empty() || grid.hides(spans[i], d.nearest))
             continue;
-        }
-        behind.all(spans[i], [&](double& depth, int column, int row) {
-            if (d.innerCosine <= 1.0 &&
-                behind.within(column, row, *candidate.planet, d.innerCosine, frame.screen))
-                depth = std::min(depth, d.innerFarthest);
-            else if (d.nearest <= depth)
-                depth = kInfinity;
-            return true;
+        rows.clear();
+        if (d.innerCosine <= 1.0)
+            innerRows(*candidate.planet, d.innerCosine, spans[i], frame.screen, rows);
+        const Span shown = grid.note(spans[i], rows, d.nearest, [&](const Span& pixels) {
+            return innerFarthest(*candidate.planet, d.innerCosine, pixels, frame);
         });
+        plan[i] = {PassRole::shared, rect(shown)};
     }
 
     // Planets that share no block with another drawn one, and lie wholly within the depth
     // range, so that the depth test would pass all their colours.
-    BlockGrid<std::uint8_t> drawn(area, 0);
     for (std::size_t i = 0; i < candidates.size(); ++i)
-        if (roles[i] != PassRole::hidden)
-            drawn.all(spans[i], [](std::uint8_t& count, int, int) {
-                count = static_cast<std::uint8_t>(std::min(count + 1, 2));
-                return true;
-            });
-    for (std::size_t i = 0; i < candidates.size(); ++i) {
-        if (roles[i] == PassRole::hidden || !(depths[i].farthest < 1.0 - kDepthMargin))
-            continue;
-        if (drawn.all(spans[i], [](std::uint8_t count, int, int) { return count == 1; }))
-            roles[i] = PassRole::alone;
-    }
+        if (plan[i].role != PassRole::hidden)
+            grid.countDrawn(spans[i]);
+    for (std::size_t i = 0; i < candidates.size(); ++i)
+        if (plan[i].role != PassRole::hidden && depths[i].farthest < 1.0 - kDepthMargin &&
+            grid.drawnAlone(spans[i]))
+            plan[i] = {PassRole::alone, rect(spans[i])};
 }
 
 } // namespace orrery::render

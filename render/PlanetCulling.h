@@ -37,12 +37,19 @@ struct PassCandidate {
     bool opaque = false; // its colour covers whatever lies behind it, where its disc does
 };
 
-// The role of each candidate, given in drawing order, in a pass that draws `area`; replaces
-// the contents of `roles`. A planet is hidden only where the outcome of drawing every
-// planet in order with the depth test (nearer wins, the first of equals) and blending
-// provably leaves no trace of it: it lies wholly behind a nearer opaque planet's inner disc
-// at every pixel, and no soft or translucent colour between the two could let it show.
+// What a pass does with a candidate: its role, and the pixels it must be drawn at (it may
+// be drawn at more: elsewhere, it leaves no trace).
+struct PassPlanet {
+    PassRole role = PassRole::shared;
+    PixelRect pixels;
+};
+
+// The part of each candidate, given in drawing order, in a pass that draws `area`; replaces
+// the contents of `plan`. A planet is left out wherever the outcome of drawing every planet
+// in order with the depth test (nearer wins, the first of equals) and blending provably
+// leaves no trace of it: it lies wholly behind a nearer opaque planet's inner disc, and no
+// soft or translucent colour between the two could let it show.
 void assignPassRoles(const std::vector<PassCandidate>& candidates, const DepthFrame& frame,
-                     const PixelRect& area, std::vector<PassRole>& roles);
+                     const PixelRect& area, std::vector<PassPlanet>& plan);
 
 } // namespace orrery::render

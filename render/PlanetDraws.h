@@ -57,6 +57,15 @@ bool showsOnScreen(const PlanetInstance& planet, const ScreenFrame& frame);
 // surface; 0 when none does, infinite when one reaches the plane of the eye.
 double largestSurfaceRadius(const std::vector<PlanetInstance>& instances, const ScreenFrame& frame);
 
+// The pixels a pass draws a planet at, as its vertex shader takes them: a box in pixels from
+// the bottom-left corner of the picture.
+struct DrawnPixels {
+    float left = 0.0f;
+    float bottom = 0.0f;
+    float right = 0.0f;
+    float top = 0.0f;
+};
+
 // Consecutive planets, in drawing order, drawn by one shader and one kind of primitive.
 struct PlanetDraw {
     std::size_t first = 0;

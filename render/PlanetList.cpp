@@ -147,8 +147,7 @@ std::optional<PixelBox> PlanetList::takeChangedArea(const std::vector<PlanetDraw
 
 void PlanetList::passOver(const PixelRect& area, const std::vector<PlanetDraw>& draws,
                           const DepthFrame& frame, const std::vector<bool>& opaqueRamps,
-                          std::vector<PlanetInstance>& instances,
-                          std::vector<PlanetDraw>& passDraws) {
+                          Pass& pass) {
     const PixelBox box{static_cast<double>(area.x), static_cast<double>(area.y),
                        static_cast<double>(area.x + area.width),
                        static_cast<double>(area.y + area.height)};
@@ -170,31 +169,37 @@ void PlanetList::passOver(const PixelRect& area, const std::vector<PlanetDraw>& 
             candidateDraws_.push_back(&draw);
         }
     }
-    assignPassRoles(candidates_, frame, area, roles_);
+    assignPassRoles(candidates_, frame, area, plan_);
 
-    instances.clear();
-    passDraws.clear();
+    pass.instances.clear();
+    pass.pixels.clear();
+    pass.draws.clear();
     const auto append = [&](std::size_t candidate, bool alone) {
         const PlanetDraw& from = *candidateDraws_[candidate];
+        std::vector<PlanetDraw>& passDraws = pass.draws;
         const bool sameDraw = !passDraws.empty() && passDraws.back().shape == from.shape &&
                               passDraws.back().textured == from.textured &&
                               passDraws.back().alone == alone;
         if (sameDraw)
             ++passDraws.back().count;
         else
-            passDraws.push_back({instances.size(), 1, from.textured, from.shape, alone});
-        instances.push_back(*candidates_[candidate].planet);
+            passDraws.push_back({pass.instances.size(), 1, from.textured, from.shape, alone});
+        pass.instances.push_back(*candidates_[candidate].planet);
+        const PixelRect& at = plan_[candidate].pixels;
+        pass.pixels.push_back({static_cast<float>(at.x), static_cast<float>(at.y),
+                               static_cast<float>(at.x + at.width),
+                               static_cast<float>(at.y + at.height)});
     };
     // Planets alone in the area may go in any order: one draw for each way of drawing.
     for (const PlanetShape shape :
          {PlanetShape::tinySprite, PlanetShape::sprite, PlanetShape::quad})
         for (const bool textured : {false, true})
             for (std::size_t i = 0; i < candidates_.size(); ++i)
-                if (roles_[i] == PassRole::alone && candidateDraws_[i]->shape == shape &&
+                if (plan_[i].role == PassRole::alone && candidateDraws_[i]->shape == shape &&
                     candidateDraws_[i]->textured == textured)
                     append(i, true);
     for (std::size_t i = 0; i < candidates_.size(); ++i)
-        if (roles_[i] == PassRole::shared)
+        if (plan_[i].role == PassRole::shared)
             append(i, false);
 }
 

@@ -37,13 +37,17 @@ public:
     // or are drawn another way; everything after a rebuild; none when nothing changed.
     std::optional<PixelBox> takeChangedArea(const std::vector<PlanetDraw>& draws);
 
-    // What a pass that draws `area` draws, replacing the contents of `instances` and
-    // `passDraws`: the planets that may touch the area, each the way `draws` draws it,
-    // without those that cannot show (see assignPassRoles); those alone in the area first,
-    // then the others in order. `opaqueRamps` tells which gradient ramps are opaque.
+    // What a pass that draws `area` draws, replacing the contents of `pass`: the planets
+    // that may touch the area, each the way `draws` draws it and at the pixels it must be
+    // drawn at, without those that cannot show (see assignPassRoles); those alone in the area
+    // first, then the others in order. `opaqueRamps` tells which gradient ramps are opaque.
+    struct Pass {
+        std::vector<PlanetInstance> instances;
+        std::vector<DrawnPixels> pixels; // beside instances
+        std::vector<PlanetDraw> draws;
+    };
     void passOver(const PixelRect& area, const std::vector<PlanetDraw>& draws,
-                  const DepthFrame& frame, const std::vector<bool>& opaqueRamps,
-                  std::vector<PlanetInstance>& instances, std::vector<PlanetDraw>& passDraws);
+                  const DepthFrame& frame, const std::vector<bool>& opaqueRamps, Pass& pass);
 
 private:
     struct Entry {
@@ -61,7 +65,7 @@ private:
     // A pass's candidates, the draws they come from and their roles, kept for their capacity.
     std::vector<PassCandidate> candidates_;
     std::vector<const PlanetDraw*> candidateDraws_;
-    std::vector<PassRole> roles_;
+    std::vector<PassPlanet> plan_;
 };
 
 } // namespace orrery::render

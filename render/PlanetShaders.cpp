@@ -6,17 +6,19 @@
 namespace orrery::render {
 
 // Each planet covers the square where its silhouette lies, widened by kEdgeMargin so that
-// the soft outer edge is drawn too. As a point sprite (SPRITE), the square holds the part of
-// the silhouette's bounding box on screen: OpenGL drops a point whose centre lies off
-// screen, so the square's centre is kept on screen. As a quad, the square stands around the circle
-// where the eye's tangent cone touches the sphere: it holds the whole silhouette, and every
-// point of the circle lies on the sphere, so no part of it is nearer than the sphere
-// itself. (An octagon would spare a few pixels, but software rasterisers pay more for the
-// extra triangles than they save.)
+// the soft outer edge is drawn too, within the box of pixels the pass must draw it at
+// (the rest of it is hidden, or off the picture). As a point sprite (SPRITE), the square
+// holds the part of the silhouette's bounding box within that box: OpenGL drops a point whose
+// centre lies off screen, so the square's centre is kept on screen. As a quad, the square
+// stands around the circle where the eye's tangent cone touches the sphere, and is cut to the
+// box: it holds the whole silhouette, and every point of the circle lies on the sphere, so no
+// part of it is nearer than the sphere itself. (An octagon would spare a few pixels, but
+// software rasterisers pay more for the extra triangles than they save.)
 constexpr const char* kPlanetVertexShader = R"(
 layout(location = 0) in vec4 centerRadius;
 layout(location = 1) in vec4 diffuseColor;
 layout(location = 2) in vec2 layers;
+layout(location = 3) in vec4 drawnPixels; // the box of pixels to draw: left, bottom, right, top
 
 uniform mat4 projection;
 uniform float pixelAngle; // radians per pixel in the middle of the view
@@ -60,8 +62,8 @@ void main() {
     vec2 box = boxHigh - boxLow;
     float texelsPerPixel = surfaceWidth / (3.14159265 * max(max(box.x, box.y), 1e-6));
     vLevel = clamp(round(log2(max(texelsPerPixel, 1.0))), 0.0, log2(max(surfaceWidth, 1.0)));
-    vec2 low = max(boxLow, vec2(0.0)) - EDGE_MARGIN;
-    vec2 high = min(boxHigh, viewport.zw) + EDGE_MARGIN;
+    vec2 low = max(boxLow, drawnPixels.xy) - EDGE_MARGIN;
+    vec2 high = min(boxHigh, drawnPixels.zw) + EDGE_MARGIN;
     vec2 middle = clamp((low + high) * 0.5, vec2(0.5), viewport.zw - 0.5);
     vec2 reach = max(middle - low, high - middle);
     gl_PointSize = 2.0 * max(reach.x, reach.y);
@@ -84,6 +86,12 @@ void main() {
     vec2 corner = vec2((gl_VertexID & 1) != 0 ? 1.0 : -1.0, (gl_VertexID & 2) != 0 ? 1.0 : -1.0);
     vec3 position = axis * along + (right * corner.x + up * corner.y) * spread;
     gl_Position = projection * vec4(position, 1.0);
+    // Cut to the box of pixels to draw.
+    vec4 box = drawnPixels / viewport.zwzw * 2.0 - 1.0;
+    gl_ClipDistance[0] = gl_Position.x - box.x * gl_Position.w;
+    gl_ClipDistance[1] = gl_Position.y - box.y * gl_Position.w;
+    gl_ClipDistance[2] = box.z * gl_Position.w - gl_Position.x;
+    gl_ClipDistance[3] = box.w * gl_Position.w - gl_Position.y;
 #endif
 }
 )";

@@ -76,6 +76,30 @@ std::vector<bool> opaqueRows(const std::vector<std::uint8_t>& pixels) {
     return opaque;
 }
 
+// A buffer of per-planet data that grows as needed, with room to spare so that adding
+// planets one by one does not reallocate each time.
+class GrowingBuffer {
+public:
+    void create() { buffer_.create(); }
+    GLuint id() const { return buffer_.id(); }
+
+    template <typename Item> void upload(const std::vector<Item>& items) {
+        const std::size_t bytes = items.size() * sizeof(Item);
+        glBindBuffer(GL_ARRAY_BUFFER, buffer_.id());
+        if (bytes > capacity_) {
+            capacity_ = bytes + bytes / 2;
+            glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(capacity_), nullptr,
+                         GL_DYNAMIC_DRAW);
+        }
+        if (bytes > 0)
+            glBufferSubData(GL_ARRAY_BUFFER, 0, static_cast<GLsizeiptr>(bytes), items.data());
+    }
+
+private:
+    GlObject buffer_{GlObject::Kind::buffer};
+    std::size_t capacity_ = 0;
+};
+
 // Which part of the canvas a frame drew again: nothing, a part, or all of it.
 struct DrawnArea {
     bool any = false;
@@ -108,7 +132,7 @@ private:
     bool drewWithoutError(std::string* error);
     void refreshPlanets(const Scene& scene, const CameraProjection& camera, int width, int height);
     bool patchPlanets(const Scene& scene, const ScreenFrame& frame);
-    void upload(const std::vector<PlanetInstance>& planets);
+    void upload(const PlanetList::Pass& pass);
     DrawnArea drawPlanets(const CameraProjection& camera, int width, int height);
     void drawInstances(const std::vector<PlanetDraw>& planetDraws, const PlanetUniforms& uniforms);
     void useProgram(const PlanetProgram& shader, const PlanetUniforms& uniforms);
@@ -130,8 +154,8 @@ private:
     // vertices at a time.
     GlObject quadVertices{GlObject::Kind::vertexArray};
     GlObject spriteVertices{GlObject::Kind::vertexArray};
-    GlObject instanceBuffer{GlObject::Kind::buffer};
-    std::size_t instanceBufferBytes = 0;
+    GrowingBuffer instanceBuffer;
+    GrowingBuffer pixelsBuffer; // the pixels each planet is drawn at
     GlObject gradientRamps{GlObject::Kind::texture};
     std::vector<bool> opaqueRamps;
     SurfaceTextures surfaces;
@@ -146,12 +170,10 @@ private:
     std::optional<bool> finishedOverBackdrop;
     // The planets and draws of a pass over the whole canvas, kept while the planets are,
     // and of a part of it drawn again.
-    std::vector<PlanetInstance> wholeInstances;
-    std::vector<PlanetDraw> wholeDraws;
+    PlanetList::Pass wholePass;
     bool wholePassKept = false;
     bool bufferHoldsWholePass = false;
-    std::vector<PlanetInstance> partInstances;
-    std::vector<PlanetDraw> partDraws;
+    PlanetList::Pass partPass;
     std::optional<SceneLight> light;
     std::uint64_t sceneId = 0;
     std::uint64_t sceneRevision = 0;
@@ -195,10 +217,11 @@ bool RendererState::build(std::string* error) {
         return false;
 
     instanceBuffer.create();
+    pixelsBuffer.create();
     for (GlObject* vertices : {&quadVertices, &spriteVertices}) {
         vertices->create();
         glBindVertexArray(vertices->id());
-        for (GLuint index = 0; index < 3; ++index) {
+        for (GLuint index = 0; index < 4; ++index) {
             glEnableVertexAttribArray(index);
             glVertexAttribDivisor(index, vertices == &quadVertices ? 1 : 0);
         }
@@ -254,17 +277,9 @@ bool RendererState::patchPlanets(const Scene& scene, const ScreenFrame& frame) {
             surfaces.keepsDetailFor(largestSurfaceRadius(planets.instances(), frame)));
 }
 
-void RendererState::upload(const std::vector<PlanetInstance>& planetsToDraw) {
-    const std::size_t bytes = planetsToDraw.size() * sizeof(PlanetInstance);
-    glBindBuffer(GL_ARRAY_BUFFER, instanceBuffer.id());
-    if (bytes > instanceBufferBytes) {
-        // Room to grow, so that adding planets one by one does not reallocate each time.
-        instanceBufferBytes = bytes + bytes / 2;
-        glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(instanceBufferBytes), nullptr,
-                     GL_DYNAMIC_DRAW);
-    }
-    if (bytes > 0)
-        glBufferSubData(GL_ARRAY_BUFFER, 0, static_cast<GLsizeiptr>(bytes), planetsToDraw.data());
+void RendererState::upload(const PlanetList::Pass& pass) {
+    instanceBuffer.upload(pass.instances);
+    pixelsBuffer.upload(pass.pixels);
 }
 
 DrawnArea RendererState::drawPlanets(const CameraProjection& camera, int width, int height) {
@@ -294,20 +309,20 @@ DrawnArea RendererState::drawPlanets(const CameraProjection& camera, int width, 
     if (part) {
         glEnable(GL_SCISSOR_TEST);
         glScissor(part->x, part->y, part->width, part->height);
-        planets.passOver(*part, draws, depthFrame, opaqueRamps, partInstances, partDraws);
-        upload(partInstances);
+        planets.passOver(*part, draws, depthFrame, opaqueRamps, partPass);
+        upload(partPass);
         bufferHoldsWholePass = false;
     } else {
         glDisable(GL_SCISSOR_TEST);
         if (!wholePassKept)
             planets.passOver(PixelRect{0, 0, width, height}, draws, depthFrame, opaqueRamps,
-                             wholeInstances, wholeDraws);
+                             wholePass);
         if (!wholePassKept || !bufferHoldsWholePass)
-            upload(wholeInstances);
+            upload(wholePass);
         wholePassKept = bufferHoldsWholePass = true;
     }
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT | GL_STENCIL_BUFFER_BIT);
-    drawInstances(part ? partDraws : wholeDraws, uniforms);
+    drawInstances(part ? partPass.draws : wholePass.draws, uniforms);
     glDisable(GL_SCISSOR_TEST);
     return {true, part};
 }
@@ -349,7 +364,11 @@ void RendererState::drawInstances(const std::vector<PlanetDraw>& planetDraws,
         } else {
             glBindVertexArray(quadVertices.id());
             pointAttributesAt(draw.first);
+            for (GLenum plane = 0; plane < 4; ++plane)
+                glEnable(GL_CLIP_DISTANCE0 + plane);
             glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, count);
+            for (GLenum plane = 0; plane < 4; ++plane)
+                glDisable(GL_CLIP_DISTANCE0 + plane);
         }
     }
     glBindVertexArray(0);
@@ -375,16 +394,17 @@ void RendererState::useProgram(const PlanetProgram& shader, const PlanetUniforms
 // Instanced draws start at their first planet by moving where the per-planet attributes
 // of the bound vertex array are read: OpenGL 3.3 has no base instance.
 void RendererState::pointAttributesAt(std::size_t first) {
-    constexpr auto stride = static_cast<GLsizei>(sizeof(PlanetInstance));
-    const auto attribute = [first](GLuint index, GLint size, std::size_t offset) {
-        glVertexAttribPointer(
-            index, size, GL_FLOAT, GL_FALSE, stride,
-            reinterpret_cast<const void*>(first * sizeof(PlanetInstance) + offset));
+    const auto attribute = [first](GLuint index, GLint size, std::size_t stride,
+                                   std::size_t offset) {
+        glVertexAttribPointer(index, size, GL_FLOAT, GL_FALSE, static_cast<GLsizei>(stride),
+                              reinterpret_cast<const void*>(first * stride + offset));
     };
     glBindBuffer(GL_ARRAY_BUFFER, instanceBuffer.id());
-    attribute(0, 4, offsetof(PlanetInstance, center));
-    attribute(1, 4, offsetof(PlanetInstance, color));
-    attribute(2, 2, offsetof(PlanetInstance, rampRow));
+    attribute(0, 4, sizeof(PlanetInstance), offsetof(PlanetInstance, center));
+    attribute(1, 4, sizeof(PlanetInstance), offsetof(PlanetInstance, color));
+    attribute(2, 2, sizeof(PlanetInstance), offsetof(PlanetInstance, rampRow));
+    glBindBuffer(GL_ARRAY_BUFFER, pixelsBuffer.id());
+    attribute(3, 4, sizeof(DrawnPixels), 0);
 }
 
 void RendererState::setBackdrop(const Image& image) {

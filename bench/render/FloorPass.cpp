@@ -13,9 +13,9 @@ namespace orrery::bench {
 
 std::unique_ptr<FloorPass> FloorPass::create(const SceneView& view, int width, int height,
                                              std::string* error) {
-    auto built =
-        render::buildProgram(render::planetVertexShader(render::PlanetShape::quad),
-                             render::planetFragmentShader(render::PlanetShape::quad, false, false), error);
+    auto built = render::buildProgram(
+        render::planetVertexShader(render::PlanetShape::quad),
+        render::planetFragmentShader(render::PlanetShape::quad, false, false), error);
     if (!built)
         return nullptr;
     std::unique_ptr<FloorPass> pass(new FloorPass());
@@ -52,6 +52,7 @@ std::unique_ptr<FloorPass> FloorPass::create(const SceneView& view, int width, i
     attribute(1, 4, offsetof(render::PlanetInstance, color));
     attribute(2, 2, offsetof(render::PlanetInstance, rampRow));
     glBindVertexArray(0);
+    pass->drawn_ = {0.0f, 0.0f, static_cast<float>(width), static_cast<float>(height)};
 
     const render::PlanetUniforms uniforms =
         render::planetUniforms(camera, render::findLight(root), width, height, 0);
@@ -78,6 +79,8 @@ double FloorPass::drawMs(GLuint framebuffer) {
     glDisable(GL_SCISSOR_TEST);
     glUseProgram(program_.id());
     glBindVertexArray(vertices_.id());
+    // Every pixel of the frame is drawn.
+    glVertexAttrib4f(3, drawn_.left, drawn_.bottom, drawn_.right, drawn_.top);
     glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, 1);
     glBindVertexArray(0);
     glUseProgram(0);

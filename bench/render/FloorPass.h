@@ -2,6 +2,7 @@
 
 #include "core/scene/SceneView.h"
 #include "render/GlObject.h"
+#include "render/PlanetDraws.h"
 
 #include <memory>
 #include <string>
@@ -26,6 +27,7 @@ private:
     render::GlObject program_{render::GlObject::Kind::program};
     render::GlObject vertices_{render::GlObject::Kind::vertexArray};
     render::GlObject instance_{render::GlObject::Kind::buffer};
+    render::DrawnPixels drawn_;
     int width_ = 0;
     int height_ = 0;
 };
