@@ -43,9 +43,9 @@ void PictureFinish::setBackdrop(const Image& image) {
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
 }
 
-void PictureFinish::finish(const Canvas& canvas, const std::optional<PixelRect>& part, int width,
-                           int height, bool overBackdrop) {
-    const PixelRect area = part.value_or(PixelRect{0, 0, width, height});
+void PictureFinish::finish(const Canvas& canvas, const PixelRect& area,
+                           const std::optional<PixelRect>& soft, int width, int height,
+                           bool overBackdrop) {
     glDisable(GL_DEPTH_TEST);
     glDisable(GL_BLEND);
     glDisable(GL_SCISSOR_TEST);
@@ -57,10 +57,14 @@ void PictureFinish::finish(const Canvas& canvas, const std::optional<PixelRect>&
                       GL_NEAREST);
 
     // The shader takes the soft pixels, and over a backdrop the empty ones too.
+    const std::optional<PixelRect> shaded =
+        overBackdrop ? area : (soft ? overlapOf(area, *soft) : std::nullopt);
+    if (!shaded)
+        return;
     glBindFramebuffer(GL_FRAMEBUFFER, canvas.pictureFramebuffer());
     glViewport(0, 0, width, height);
     glEnable(GL_SCISSOR_TEST);
-    glScissor(area.x, area.y, area.width, area.height);
+    glScissor(shaded->x, shaded->y, shaded->width, shaded->height);
     if (stencilMarks_) {
         glEnable(GL_STENCIL_TEST);
         glStencilMask(0);

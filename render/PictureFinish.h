@@ -27,9 +27,10 @@ public:
     void setBackdrop(const Image& backdrop);
     bool hasBackdrop() const { return static_cast<bool>(backdrop_); }
 
-    // Finishes the part of the canvas (all of it for none) into its picture.
-    void finish(const Canvas& canvas, const std::optional<PixelRect>& part, int width, int height,
-                bool overBackdrop);
+    // Finishes an area of the canvas, width x height, into its picture; `soft` holds the
+    // pixels where the planets may have left a soft colour (none: nowhere).
+    void finish(const Canvas& canvas, const PixelRect& area, const std::optional<PixelRect>& soft,
+                int width, int height, bool overBackdrop);
 
 private:
     struct Program {

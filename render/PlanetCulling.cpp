@@ -25,6 +25,28 @@ struct Span {
     int right = -1;
     int top = -1;
     bool empty() const { return right < left || top < bottom; }
+    void include(int x, int y) {
+        left = std::min(left, x);
+        right = std::max(right, x);
+        bottom = std::min(bottom, y);
+        top = std::max(top, y);
+    }
+    void include(const Span& other) {
+        if (other.empty())
+            return;
+        include(other.left, other.bottom);
+        include(other.right, other.top);
+    }
+};
+
+constexpr Span kNoPixels{std::numeric_limits<int>::max(), std::numeric_limits<int>::max(),
+                         std::numeric_limits<int>::min(), std::numeric_limits<int>::min()};
+
+// Where a planet drawn in a pass shows: the box of its pixels that nothing hides, and the
+// box of those where it lays down a soft colour.
+struct Shown {
+    Span pixels = kNoPixels;
+    Span soft = kNoPixels;
 };
 
 // What the roles need of a planet, as depth buffer values.
@@ -175,11 +197,11 @@ public:
     // disc (the rows' column intervals), an opaque colour no farther than innerFarthest(block
     // span) gives; elsewhere in the span, a colour no nearer than `nearest` that may let what
     // lies behind show, or none.
-    // Returns the box of the span's pixels where the planet is not hidden.
+    // Returns where the planet shows.
     template <typename InnerFarthest>
-    Span note(const Span& span, const std::vector<std::pair<int, int>>& innerRows, double nearest,
-              InnerFarthest innerFarthest) {
-        Span shown{span.right + 1, span.top + 1, span.left - 1, span.bottom - 1};
+    Shown note(const Span& span, const std::vector<std::pair<int, int>>& innerRows, double nearest,
+               InnerFarthest innerFarthest) {
+        Shown shown;
         const auto limit = static_cast<float>(nearest);
         eachBlock(span, [&](int column, int row, const Span& pixels) {
             const bool blockHidden = blockBehind_[blockAt(column, row)] < limit;
@@ -193,13 +215,13 @@ public:
                         innerRows[static_cast<std::size_t>(y - span.bottom)];
                 float* depth = &behind_[pixelAt(pixels.left, y)];
                 for (int x = pixels.left; x <= pixels.right; ++x, ++depth) {
+                    const bool inside = x >= innerLeft && x <= innerRight;
                     if (!blockHidden && !(*depth < limit)) {
-                        shown.left = std::min(shown.left, x);
-                        shown.right = std::max(shown.right, x);
-                        shown.bottom = std::min(shown.bottom, y);
-                        shown.top = std::max(shown.top, y);
+                        shown.pixels.include(x, y);
+                        if (!inside)
+                            shown.soft.include(x, y);
                     }
-                    if (x >= innerLeft && x <= innerRight) {
+                    if (inside) {
                         if (!innerKnown) {
                             inner = static_cast<float>(innerFarthest(pixels));
                             innerKnown = true;
@@ -285,11 +307,13 @@ private:
 
 } // namespace
 
-void assignPassRoles(const std::vector<PassCandidate>& candidates, const DepthFrame& frame,
-                     const PixelRect& area, std::vector<PassPlanet>& plan) {
+std::optional<PixelRect> assignPassRoles(const std::vector<PassCandidate>& candidates,
+                                         const DepthFrame& frame, const PixelRect& area,
+                                         std::vector<PassPlanet>& plan) {
     plan.assign(candidates.size(), PassPlanet{PassRole::hidden, {}});
     if (area.width <= 0 || area.height <= 0)
-        return;
+        return std::nullopt;
+    Span soft = kNoPixels;
     std::vector<Span> spans(candidates.size());
     std::vector<Depths> depths(candidates.size());
     std::vector<std::pair<int, int>> rows;
@@ -315,10 +339,11 @@ void assignPassRoles(const std::vector<PassCandidate>& candidates, const DepthFr
         rows.clear();
         if (d.innerCosine <= 1.0)
             innerRows(*candidate.planet, d.innerCosine, spans[i], frame.screen, rows);
-        const Span shown = grid.note(spans[i], rows, d.nearest, [&](const Span& pixels) {
+        const Shown shown = grid.note(spans[i], rows, d.nearest, [&](const Span& pixels) {
             return innerFarthest(*candidate.planet, d.innerCosine, pixels, frame);
         });
-        plan[i] = {PassRole::shared, rect(shown)};
+        plan[i] = {PassRole::shared, rect(shown.pixels)};
+        soft.include(shown.soft);
     }
 
     // Planets that share no block with another drawn one, and lie wholly within the depth
@@ -330,6 +355,7 @@ void assignPassRoles(const std::vector<PassCandidate>& candidates, const DepthFr
         if (plan[i].role != PassRole::hidden && depths[i].farthest < 1.0 - kDepthMargin &&
             grid.drawnAlone(spans[i]))
             plan[i] = {PassRole::alone, rect(spans[i])};
+    return soft.empty() ? std::nullopt : std::optional(rect(soft));
 }
 
 } // namespace orrery::render

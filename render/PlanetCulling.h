@@ -5,6 +5,7 @@
 #include "render/PlanetUniforms.h"
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 // Which planets a pass must draw at all, and which of them it may draw the cheap way.
@@ -48,8 +49,11 @@ struct PassPlanet {
 // the contents of `plan`. A planet is left out wherever the outcome of drawing every planet
 // in order with the depth test (nearer wins, the first of equals) and blending provably
 // leaves no trace of it: it lies wholly behind a nearer opaque planet's inner disc, and no
-// soft or translucent colour between the two could let it show.
-void assignPassRoles(const std::vector<PassCandidate>& candidates, const DepthFrame& frame,
-                     const PixelRect& area, std::vector<PassPlanet>& plan);
+// soft or translucent colour between the two could let it show. Returns the box of the
+// pixels where a drawn planet may leave a colour that lets what lies behind show (a soft
+// edge, a translucent planet): elsewhere the pass leaves each pixel empty or opaque.
+std::optional<PixelRect> assignPassRoles(const std::vector<PassCandidate>& candidates,
+                                         const DepthFrame& frame, const PixelRect& area,
+                                         std::vector<PassPlanet>& plan);
 
 } // namespace orrery::render

@@ -169,7 +169,7 @@ void PlanetList::passOver(const PixelRect& area, const std::vector<PlanetDraw>& 
             candidateDraws_.push_back(&draw);
         }
     }
-    assignPassRoles(candidates_, frame, area, plan_);
+    pass.soft = assignPassRoles(candidates_, frame, area, plan_);
 
     pass.instances.clear();
     pass.pixels.clear();

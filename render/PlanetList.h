@@ -45,6 +45,8 @@ public:
         std::vector<PlanetInstance> instances;
         std::vector<DrawnPixels> pixels; // beside instances
         std::vector<PlanetDraw> draws;
+        // Where the planets may leave a colour that lets what lies behind show; none: nowhere.
+        std::optional<PixelRect> soft;
     };
     void passOver(const PixelRect& area, const std::vector<PlanetDraw>& draws,
                   const DepthFrame& frame, const std::vector<bool>& opaqueRamps, Pass& pass);

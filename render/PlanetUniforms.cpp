@@ -53,4 +53,24 @@ std::optional<PixelRect> pixelsOf(const PixelBox& area, int width, int height) {
     return rect;
 }
 
+std::optional<PixelRect> unite(const std::optional<PixelRect>& a,
+                               const std::optional<PixelRect>& b) {
+    if (!a || !b)
+        return a ? a : b;
+    const int left = std::min(a->x, b->x);
+    const int bottom = std::min(a->y, b->y);
+    return PixelRect{left, bottom, std::max(a->x + a->width, b->x + b->width) - left,
+                     std::max(a->y + a->height, b->y + b->height) - bottom};
+}
+
+std::optional<PixelRect> overlapOf(const PixelRect& a, const PixelRect& b) {
+    const int left = std::max(a.x, b.x);
+    const int bottom = std::max(a.y, b.y);
+    const int right = std::min(a.x + a.width, b.x + b.width);
+    const int top = std::min(a.y + a.height, b.y + b.height);
+    if (right <= left || top <= bottom)
+        return std::nullopt;
+    return PixelRect{left, bottom, right - left, top - bottom};
+}
+
 } // namespace orrery::render

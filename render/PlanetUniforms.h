@@ -39,4 +39,10 @@ struct PixelRect {
 };
 std::optional<PixelRect> pixelsOf(const PixelBox& area, int width, int height);
 
+// The smallest rectangle holding both; none for none on either side.
+std::optional<PixelRect> unite(const std::optional<PixelRect>& a,
+                               const std::optional<PixelRect>& b);
+// The pixels in both; none when they share none.
+std::optional<PixelRect> overlapOf(const PixelRect& a, const PixelRect& b);
+
 } // namespace orrery::render

@@ -53,20 +53,6 @@ float largestPointSize() {
     return range[1];
 }
 
-GlObject makeGradientRampTexture(const std::vector<std::uint8_t>& pixels) {
-    GlObject texture(GlObject::Kind::texture);
-    texture.create();
-    glBindTexture(GL_TEXTURE_2D, texture.id());
-    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
-    glTexImage2D(GL_TEXTURE_2D, 0, GL_SRGB8_ALPHA8, kGradientRampLength, kGradientRampCount, 0,
-                 GL_RGBA, GL_UNSIGNED_BYTE, pixels.data());
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
-    return texture;
-}
-
 // Whether every sample of each ramp is opaque.
 std::vector<bool> opaqueRows(const std::vector<std::uint8_t>& pixels) {
     std::vector<bool> opaque(kGradientRampCount, true);
@@ -168,6 +154,8 @@ private:
     std::optional<PlanetUniforms> canvasUniforms;
     // Whether the canvas's picture is finished over the backdrop; none when it is not finished.
     std::optional<bool> finishedOverBackdrop;
+    // Where the canvas may hold soft colours; none: nowhere.
+    std::optional<PixelRect> canvasSoft;
     // The planets and draws of a pass over the whole canvas, kept while the planets are,
     // and of a part of it drawn again.
     PlanetList::Pass wholePass;
@@ -312,6 +300,7 @@ DrawnArea RendererState::drawPlanets(const CameraProjection& camera, int width, 
         planets.passOver(*part, draws, depthFrame, opaqueRamps, partPass);
         upload(partPass);
         bufferHoldsWholePass = false;
+        canvasSoft = unite(canvasSoft, partPass.soft);
     } else {
         glDisable(GL_SCISSOR_TEST);
         if (!wholePassKept)
@@ -320,6 +309,7 @@ DrawnArea RendererState::drawPlanets(const CameraProjection& camera, int width, 
         if (!wholePassKept || !bufferHoldsWholePass)
             upload(wholePass);
         wholePassKept = bufferHoldsWholePass = true;
+        canvasSoft = wholePass.soft;
     }
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT | GL_STENCIL_BUFFER_BIT);
     drawInstances(part ? partPass.draws : wholePass.draws, uniforms);
@@ -424,10 +414,12 @@ bool RendererState::drawFrame(const Scene& scene, const CameraProjection& camera
     }
     refreshPlanets(scene, camera, width, height);
     const DrawnArea drawn = drawPlanets(camera, width, height);
+    const PixelRect whole{0, 0, width, height};
     if (finishedOverBackdrop != overBackdrop)
-        finishing.finish(canvas, std::nullopt, width, height, overBackdrop);
+        finishing.finish(canvas, whole, canvasSoft, width, height, overBackdrop);
     else if (drawn.any)
-        finishing.finish(canvas, drawn.part, width, height, overBackdrop);
+        finishing.finish(canvas, drawn.part.value_or(whole), canvasSoft, width, height,
+                         overBackdrop);
     finishedOverBackdrop = overBackdrop;
     return true;
 }

@@ -1,10 +1,10 @@
 // Frame times and peak memory of the headless renderer at 1920 x 1080, for growing numbers
 // of planets, plus hit-test times. Every frame time is also given as a ratio to the floor:
-// one bare pass of the plain planet shader over every pixel of the frame (FloorPass),
-// measured in the same process in turn with the case's frames, so that both see the same
-// machine. Three frames per case: kept (nothing changed since the last frame), drag (one
-// planet moved) and full (the light moved, so every planet is drawn again). Prints
-// figures; never fails on time.
+// one bare pass over every pixel of the frame of the planet shader the case's planets use
+// (FloorPass: plain, or with gradient and surface), measured in the same process in turn
+// with the case's frames, so that both see the same machine. Three frames per case: kept (nothing
+// changed since the last frame), drag (one planet moved) and full (the light moved, so every planet
+// is drawn again). Prints figures; never fails on time.
 //   bench_render [--quick] [filling | PLANETS plain|styled [RADIUS]]
 // With a case, measures only that case (to compare changes quickly); "filling" is one
 // plain planet that fills the frame, the floor's own scene drawn by the renderer.
@@ -90,11 +90,14 @@ void populate(orrery::SceneView& view, const Layout& layout) {
     }
 }
 
-// The floor's scene: one plain planet, 1,500 units ahead, whose silhouette covers every
-// pixel of the frame.
-void populateFloor(orrery::SceneView& view) {
+// The floor's scene: one planet, 1,500 units ahead, whose silhouette covers every pixel of
+// the frame; plain, or dressed as the dressed cases' planets are, with a style and a surface.
+void populateFloor(orrery::SceneView& view, bool dressed) {
     view.updateCamera(45, 45, 0, 0, 500, true, true);
-    view.createPlanet("floor", "0", "0", "-1000", "1000");
+    if (dressed)
+        view.createPlanet2("floor", {0.3, 0.5, 0.9, 1.0}, 1, 1, "0", "0", "-1000", "1000");
+    else
+        view.createPlanet("floor", "0", "0", "-1000", "1000");
 }
 
 // How many times over the planets' silhouettes would paint the picture.
@@ -190,7 +193,8 @@ struct Figures {
 using RendererPtr = std::unique_ptr<orrery::Renderer>;
 
 std::optional<Figures> measure(const std::function<RendererPtr()>& makeRenderer,
-                               const Layout& layout, bool quick, std::string& error) {
+                               const orrery::SurfaceSource& surfaces, const Layout& layout,
+                               bool quick, std::string& error) {
     const double seconds = quick ? 0.3 : 1.5;
     const Target target;
     resetPeakMemory();
@@ -198,13 +202,14 @@ std::optional<Figures> measure(const std::function<RendererPtr()>& makeRenderer,
     orrery::SceneView view;
     view.setViewSize(kWidth, kHeight);
     if (layout.filling)
-        populateFloor(view);
+        populateFloor(view, false);
     else
         populate(view, layout);
     orrery::SceneView floorView;
     floorView.setViewSize(kWidth, kHeight);
-    populateFloor(floorView);
-    const auto floor = orrery::bench::FloorPass::create(floorView, kWidth, kHeight, &error);
+    populateFloor(floorView, layout.dressed);
+    const auto floor =
+        orrery::bench::FloorPass::create(floorView, kWidth, kHeight, surfaces, &error);
     if (!renderer || !floor)
         return std::nullopt;
     Figures figures;
@@ -274,14 +279,12 @@ bool runOne(const Layout& layout, bool quick, bool describe = false) {
     if (child == 0) {
         std::string error;
         const auto context = orrery::HeadlessContext::create(&error);
-        orrery::imageio::SurfaceLibrary surfaces;
+        orrery::imageio::SurfaceLibrary library;
+        const orrery::SurfaceSource surfaces = [&library](const std::string& name) {
+            return library.surfaceNamed(name);
+        };
         const auto makeRenderer = [&]() -> RendererPtr {
-            return context ? orrery::Renderer::create(
-                                 [&surfaces](const std::string& name) {
-                                     return surfaces.surfaceNamed(name);
-                                 },
-                                 &error)
-                           : nullptr;
+            return context ? orrery::Renderer::create(surfaces, &error) : nullptr;
         };
         if (const RendererPtr probe = makeRenderer(); !probe) {
             std::fprintf(stderr, "bench_render: %s\n", error.c_str());
@@ -289,7 +292,8 @@ bool runOne(const Layout& layout, bool quick, bool describe = false) {
         } else if (describe) {
             printHeader(probe->description(), context->route());
         }
-        const std::optional<Figures> figures = measure(makeRenderer, layout, quick, error);
+        const std::optional<Figures> figures =
+            measure(makeRenderer, surfaces, layout, quick, error);
         if (!figures) {
             std::fprintf(stderr, "bench_render: %s\n", error.c_str());
             _exit(2);
