@@ -17,6 +17,10 @@ constexpr double kDepthMargin = 4e-6;
 // edge coverage, which fades over at most 0.71 of a pixel angle, is exactly one.
 constexpr double kInnerMargin = 1.5;
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
+// A planet partly hidden is drawn in pieces, each a box around its shown pixels in a band
+// of rows; two bands become one piece unless that draws more pixels than a piece costs.
+constexpr int kBandRows = 16;
+constexpr long kPieceCost = 256; // pixels: about what drawing one more piece costs
 
 // Pixels from left to right and bottom to top, inclusive; none when right < left.
 struct Span {
@@ -42,12 +46,8 @@ struct Span {
 constexpr Span kNoPixels{std::numeric_limits<int>::max(), std::numeric_limits<int>::max(),
                          std::numeric_limits<int>::min(), std::numeric_limits<int>::min()};
 
-// Where a planet drawn in a pass shows: the box of its pixels that nothing hides, and the
-// box of those where it lays down a soft colour.
-struct Shown {
-    Span pixels = kNoPixels;
-    Span soft = kNoPixels;
-};
+// The columns of one pixel row, inclusive; none when right < left.
+using Columns = std::pair<int, int>;
 
 // What the roles need of a planet, as depth buffer values.
 struct Depths {
@@ -96,7 +96,7 @@ Span pixelsOf(const PixelBox& reach, const PixelRect& area) {
 // disc: a cone around the direction of its centre, met by the rays through the row in an
 // interval.
 void innerRows(const PlanetInstance& planet, double cosine, const Span& span,
-               const ScreenFrame& screen, std::vector<std::pair<int, int>>& rows) {
+               const ScreenFrame& screen, std::vector<Columns>& rows) {
     rows.clear();
     const double cx = planet.center[0];
     const double cy = planet.center[1];
@@ -197,11 +197,14 @@ public:
     // disc (the rows' column intervals), an opaque colour no farther than innerFarthest(block
     // span) gives; elsewhere in the span, a colour no nearer than `nearest` that may let what
     // lies behind show, or none.
-    // Returns where the planet shows.
+    // Sets `shown` to the columns of each row of the span where nothing hides the planet, and
+    // returns the box of those where it lays down a soft colour.
     template <typename InnerFarthest>
-    Shown note(const Span& span, const std::vector<std::pair<int, int>>& innerRows, double nearest,
-               InnerFarthest innerFarthest) {
-        Shown shown;
+    Span note(const Span& span, const std::vector<Columns>& innerRows, double nearest,
+              InnerFarthest innerFarthest, std::vector<Columns>& shown) {
+        shown.assign(static_cast<std::size_t>(span.top - span.bottom + 1),
+                     {std::numeric_limits<int>::max(), std::numeric_limits<int>::min()});
+        Span soft = kNoPixels;
         const auto limit = static_cast<float>(nearest);
         eachBlock(span, [&](int column, int row, const Span& pixels) {
             const bool blockHidden = blockBehind_[blockAt(column, row)] < limit;
@@ -217,9 +220,11 @@ public:
                 for (int x = pixels.left; x <= pixels.right; ++x, ++depth) {
                     const bool inside = x >= innerLeft && x <= innerRight;
                     if (!blockHidden && !(*depth < limit)) {
-                        shown.pixels.include(x, y);
+                        auto& [left, right] = shown[static_cast<std::size_t>(y - span.bottom)];
+                        left = std::min(left, x);
+                        right = std::max(right, x);
                         if (!inside)
-                            shown.soft.include(x, y);
+                            soft.include(x, y);
                     }
                     if (inside) {
                         if (!innerKnown) {
@@ -242,7 +247,7 @@ public:
             }
             return true;
         });
-        return shown;
+        return soft;
     }
 
     // Counts a planet drawn in the span's blocks, up to two.
@@ -305,22 +310,57 @@ private:
     std::vector<std::uint8_t> drawn_;
 };
 
+// Appends the pieces that hold the shown columns of a span's rows: a box per band of rows,
+// bands joined while that costs fewer pixels than a piece.
+void cutIntoPieces(const Span& span, const std::vector<Columns>& shown,
+                   std::vector<PixelRect>& pieces) {
+    const auto area = [](const Span& box) {
+        return box.empty()
+                   ? 0L
+                   : static_cast<long>(box.right - box.left + 1) * (box.top - box.bottom + 1);
+    };
+    const auto add = [&pieces](const Span& box) {
+        if (!box.empty())
+            pieces.push_back(
+                {box.left, box.bottom, box.right - box.left + 1, box.top - box.bottom + 1});
+    };
+    Span piece = kNoPixels;
+    for (int bandBottom = span.bottom; bandBottom <= span.top; bandBottom += kBandRows) {
+        Span band = kNoPixels;
+        for (int y = bandBottom; y <= std::min(bandBottom + kBandRows - 1, span.top); ++y) {
+            const auto [left, right] = shown[static_cast<std::size_t>(y - span.bottom)];
+            if (left <= right) {
+                band.include(left, y);
+                band.include(right, y);
+            }
+        }
+        Span joined = piece;
+        joined.include(band);
+        if (area(joined) - area(piece) - area(band) <= kPieceCost) {
+            piece = joined;
+            continue;
+        }
+        add(piece);
+        piece = band;
+    }
+    add(piece);
+}
+
 } // namespace
 
-std::optional<PixelRect> assignPassRoles(const std::vector<PassCandidate>& candidates,
-                                         const DepthFrame& frame, const PixelRect& area,
-                                         std::vector<PassPlanet>& plan) {
-    plan.assign(candidates.size(), PassPlanet{PassRole::hidden, {}});
+void assignPassRoles(const std::vector<PassCandidate>& candidates, const DepthFrame& frame,
+                     const PixelRect& area, PassPlan& plan) {
+    plan.planets.assign(candidates.size(), PassPlanet{});
+    plan.pieces.clear();
+    plan.soft.reset();
     if (area.width <= 0 || area.height <= 0)
-        return std::nullopt;
-    Span soft = kNoPixels;
+        return;
     std::vector<Span> spans(candidates.size());
     std::vector<Depths> depths(candidates.size());
-    std::vector<std::pair<int, int>> rows;
-    const auto rect = [](const Span& span) {
-        return PixelRect{span.left, span.bottom, span.right - span.left + 1,
-                         span.top - span.bottom + 1};
-    };
+    std::vector<Columns> inner;
+    std::vector<Columns> shown;
+    std::vector<PixelRect> pieces; // nearest planet first
+    Span soft = kNoPixels;
 
     // Nearest first. Each pixel keeps a depth behind which nothing drawn before the planets
     // seen so far can show; a planet lying behind it at every pixel it touches is hidden.
@@ -336,26 +376,45 @@ std::optional<PixelRect> assignPassRoles(const std::vector<PassCandidate>& candi
         const Depths& d = depths[i];
         if (spans[i].empty() || grid.hides(spans[i], d.nearest))
             continue;
-        rows.clear();
+        inner.clear();
         if (d.innerCosine <= 1.0)
-            innerRows(*candidate.planet, d.innerCosine, spans[i], frame.screen, rows);
-        const Shown shown = grid.note(spans[i], rows, d.nearest, [&](const Span& pixels) {
-            return innerFarthest(*candidate.planet, d.innerCosine, pixels, frame);
-        });
-        plan[i] = {PassRole::shared, rect(shown.pixels)};
-        soft.include(shown.soft);
+            innerRows(*candidate.planet, d.innerCosine, spans[i], frame.screen, inner);
+        soft.include(grid.note(
+            spans[i], inner, d.nearest,
+            [&](const Span& pixels) {
+                return innerFarthest(*candidate.planet, d.innerCosine, pixels, frame);
+            },
+            shown));
+        const std::size_t first = pieces.size();
+        cutIntoPieces(spans[i], shown, pieces);
+        plan.planets[i] = {PassRole::shared, first, pieces.size() - first};
     }
+    if (!soft.empty())
+        plan.soft = PixelRect{soft.left, soft.bottom, soft.right - soft.left + 1,
+                              soft.top - soft.bottom + 1};
 
     // Planets that share no block with another drawn one, and lie wholly within the depth
-    // range, so that the depth test would pass all their colours.
+    // range, so that the depth test would pass all their colours: one piece, the whole span.
     for (std::size_t i = 0; i < candidates.size(); ++i)
-        if (plan[i].role != PassRole::hidden)
+        if (plan.planets[i].role != PassRole::hidden)
             grid.countDrawn(spans[i]);
-    for (std::size_t i = 0; i < candidates.size(); ++i)
-        if (plan[i].role != PassRole::hidden && depths[i].farthest < 1.0 - kDepthMargin &&
-            grid.drawnAlone(spans[i]))
-            plan[i] = {PassRole::alone, rect(spans[i])};
-    return soft.empty() ? std::nullopt : std::optional(rect(soft));
+    for (std::size_t i = 0; i < candidates.size(); ++i) {
+        PassPlanet& planet = plan.planets[i];
+        if (planet.role == PassRole::hidden)
+            continue;
+        const std::size_t first = plan.pieces.size();
+        if (depths[i].farthest < 1.0 - kDepthMargin && grid.drawnAlone(spans[i])) {
+            const Span& span = spans[i];
+            plan.pieces.push_back(
+                {span.left, span.bottom, span.right - span.left + 1, span.top - span.bottom + 1});
+            planet = {PassRole::alone, first, 1};
+            continue;
+        }
+        const auto from = pieces.begin() + static_cast<std::ptrdiff_t>(planet.firstPiece);
+        plan.pieces.insert(plan.pieces.end(), from,
+                           from + static_cast<std::ptrdiff_t>(planet.pieceCount));
+        planet.firstPiece = first;
+    }
 }
 
 } // namespace orrery::render

@@ -38,22 +38,30 @@ struct PassCandidate {
     bool opaque = false; // its colour covers whatever lies behind it, where its disc does
 };
 
-// What a pass does with a candidate: its role, and the pixels it must be drawn at (it may
-// be drawn at more: elsewhere, it leaves no trace).
+// What a pass does with a candidate: its role, and the pieces of the picture (boxes of
+// pixels, pieces[firstPiece, firstPiece + pieceCount) of the plan) it must be drawn over; it
+// may be drawn over more, as elsewhere it leaves no trace.
 struct PassPlanet {
-    PassRole role = PassRole::shared;
-    PixelRect pixels;
+    PassRole role = PassRole::hidden;
+    std::size_t firstPiece = 0;
+    std::size_t pieceCount = 0;
+};
+
+struct PassPlan {
+    std::vector<PassPlanet> planets; // beside the candidates
+    std::vector<PixelRect> pieces;
+    // The box of the pixels where a drawn planet may leave a colour that lets what lies
+    // behind show (a soft edge, a translucent planet); none: the pass leaves every pixel
+    // empty or opaque.
+    std::optional<PixelRect> soft;
 };
 
 // The part of each candidate, given in drawing order, in a pass that draws `area`; replaces
 // the contents of `plan`. A planet is left out wherever the outcome of drawing every planet
 // in order with the depth test (nearer wins, the first of equals) and blending provably
 // leaves no trace of it: it lies wholly behind a nearer opaque planet's inner disc, and no
-// soft or translucent colour between the two could let it show. Returns the box of the
-// pixels where a drawn planet may leave a colour that lets what lies behind show (a soft
-// edge, a translucent planet): elsewhere the pass leaves each pixel empty or opaque.
-std::optional<PixelRect> assignPassRoles(const std::vector<PassCandidate>& candidates,
-                                         const DepthFrame& frame, const PixelRect& area,
-                                         std::vector<PassPlanet>& plan);
+// soft or translucent colour between the two could let it show.
+void assignPassRoles(const std::vector<PassCandidate>& candidates, const DepthFrame& frame,
+                     const PixelRect& area, PassPlan& plan);
 
 } // namespace orrery::render

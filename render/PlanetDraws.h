@@ -73,6 +73,9 @@ struct PlanetDraw {
     bool textured = false; // with the texture work, or plain
     PlanetShape shape = PlanetShape::quad;
     bool alone = false; // nothing else drawn touches its planets' pixels (see PassRole)
+    // Sprites drawn as one rectangle per piece of the picture they are drawn over, rather
+    // than as one point each (see PassPlanet).
+    bool inPieces = false;
 };
 
 // Fewer planets in a row than this, among ones that need the more general shader or shape,

@@ -169,38 +169,48 @@ void PlanetList::passOver(const PixelRect& area, const std::vector<PlanetDraw>& 
             candidateDraws_.push_back(&draw);
         }
     }
-    pass.soft = assignPassRoles(candidates_, frame, area, plan_);
+    assignPassRoles(candidates_, frame, area, plan_);
 
     pass.instances.clear();
     pass.pixels.clear();
     pass.draws.clear();
-    const auto append = [&](std::size_t candidate, bool alone) {
+    pass.soft = plan_.soft;
+    // Each piece of a planet is one instance of it, drawn over that piece.
+    const auto append = [&](std::size_t candidate) {
+        const PassPlanet& planet = plan_.planets[candidate];
         const PlanetDraw& from = *candidateDraws_[candidate];
-        std::vector<PlanetDraw>& passDraws = pass.draws;
-        const bool sameDraw = !passDraws.empty() && passDraws.back().shape == from.shape &&
-                              passDraws.back().textured == from.textured &&
-                              passDraws.back().alone == alone;
-        if (sameDraw)
-            ++passDraws.back().count;
+        const PlanetDraw kind{pass.instances.size(),
+                              planet.pieceCount,
+                              from.textured,
+                              from.shape,
+                              planet.role == PassRole::alone,
+                              from.shape != PlanetShape::quad && planet.pieceCount > 1};
+        PlanetDraw* last = pass.draws.empty() ? nullptr : &pass.draws.back();
+        if (last != nullptr && last->shape == kind.shape && last->textured == kind.textured &&
+            last->alone == kind.alone && last->inPieces == kind.inPieces)
+            last->count += kind.count;
         else
-            passDraws.push_back({pass.instances.size(), 1, from.textured, from.shape, alone});
-        pass.instances.push_back(*candidates_[candidate].planet);
-        const PixelRect& at = plan_[candidate].pixels;
-        pass.pixels.push_back({static_cast<float>(at.x), static_cast<float>(at.y),
-                               static_cast<float>(at.x + at.width),
-                               static_cast<float>(at.y + at.height)});
+            pass.draws.push_back(kind);
+        for (std::size_t piece = planet.firstPiece; piece < planet.firstPiece + planet.pieceCount;
+             ++piece) {
+            const PixelRect& at = plan_.pieces[piece];
+            pass.instances.push_back(*candidates_[candidate].planet);
+            pass.pixels.push_back({static_cast<float>(at.x), static_cast<float>(at.y),
+                                   static_cast<float>(at.x + at.width),
+                                   static_cast<float>(at.y + at.height)});
+        }
     };
     // Planets alone in the area may go in any order: one draw for each way of drawing.
     for (const PlanetShape shape :
          {PlanetShape::tinySprite, PlanetShape::sprite, PlanetShape::quad})
         for (const bool textured : {false, true})
             for (std::size_t i = 0; i < candidates_.size(); ++i)
-                if (plan_[i].role == PassRole::alone && candidateDraws_[i]->shape == shape &&
-                    candidateDraws_[i]->textured == textured)
-                    append(i, true);
+                if (plan_.planets[i].role == PassRole::alone &&
+                    candidateDraws_[i]->shape == shape && candidateDraws_[i]->textured == textured)
+                    append(i);
     for (std::size_t i = 0; i < candidates_.size(); ++i)
-        if (plan_[i].role == PassRole::shared)
-            append(i, false);
+        if (plan_.planets[i].role == PassRole::shared)
+            append(i);
 }
 
 } // namespace orrery::render

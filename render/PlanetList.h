@@ -67,7 +67,7 @@ private:
     // A pass's candidates, the draws they come from and their roles, kept for their capacity.
     std::vector<PassCandidate> candidates_;
     std::vector<const PlanetDraw*> candidateDraws_;
-    std::vector<PassPlanet> plan_;
+    PassPlan plan_;
 };
 
 } // namespace orrery::render

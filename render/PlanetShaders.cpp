@@ -62,12 +62,20 @@ void main() {
     vec2 box = boxHigh - boxLow;
     float texelsPerPixel = surfaceWidth / (3.14159265 * max(max(box.x, box.y), 1e-6));
     vLevel = clamp(round(log2(max(texelsPerPixel, 1.0))), 0.0, log2(max(surfaceWidth, 1.0)));
+#ifdef PIECES
+    // One rectangle, the piece of the picture to draw: it holds no pixel the planet's square
+    // would not, but for ones beside the silhouette, which the fragment shader leaves alone.
+    vec2 corner = vec2((gl_VertexID & 1) != 0 ? drawnPixels.z : drawnPixels.x,
+                       (gl_VertexID & 2) != 0 ? drawnPixels.w : drawnPixels.y);
+    gl_Position = vec4(corner / viewport.zw * 2.0 - 1.0, 0.0, 1.0);
+#else
     vec2 low = max(boxLow, drawnPixels.xy) - EDGE_MARGIN;
     vec2 high = min(boxHigh, drawnPixels.zw) + EDGE_MARGIN;
     vec2 middle = clamp((low + high) * 0.5, vec2(0.5), viewport.zw - 0.5);
     vec2 reach = max(middle - low, high - middle);
     gl_PointSize = 2.0 * max(reach.x, reach.y);
     gl_Position = vec4(middle / viewport.zw * 2.0 - 1.0, 0.0, 1.0);
+#endif
 #else
     float distance2 = dot(center, center);
     if (radius <= 0.0 || distance2 <= radius * radius) {
@@ -273,8 +281,9 @@ const char* shapeDefines(PlanetShape shape) {
 
 } // namespace
 
-std::string planetVertexShader(PlanetShape shape) {
-    return std::string("#version 330 core\n") + shapeDefines(shape) + "#define EDGE_MARGIN " +
+std::string planetVertexShader(PlanetShape shape, bool inPieces) {
+    return std::string("#version 330 core\n") + shapeDefines(shape) +
+           (inPieces ? "#define PIECES\n" : "") + "#define EDGE_MARGIN " +
            std::to_string(kEdgeMargin) + "\n" + kPlanetVertexShader;
 }
 

@@ -125,13 +125,16 @@ private:
     void pointAttributesAt(std::size_t first);
 
     // Plain tiny sprites are drawn as plain sprites: without textures the two are one.
-    PlanetProgram& program(PlanetShape shape, bool textured) {
-        if (!textured && shape == PlanetShape::tinySprite)
-            shape = PlanetShape::sprite;
-        return programs[static_cast<std::size_t>(shape)][textured ? 1 : 0];
+    PlanetProgram& program(const PlanetDraw& draw) {
+        const PlanetShape shape = !draw.textured && draw.shape == PlanetShape::tinySprite
+                                      ? PlanetShape::sprite
+                                      : draw.shape;
+        return programs[static_cast<std::size_t>(shape)][draw.textured ? 1 : 0]
+                       [draw.inPieces ? 1 : 0];
     }
 
-    std::array<std::array<PlanetProgram, 2>, 3> programs; // [shape][textured]
+    // [shape][textured][sprites in pieces]
+    std::array<std::array<std::array<PlanetProgram, 2>, 2>, 3> programs;
     float pointSizeLimit = 1.0f;
     bool marksSoft = false; // the planet shaders leave soft pixels marked in the stencil
     PictureFinish finishing;
@@ -179,11 +182,13 @@ bool RendererState::build(std::string* error) {
     marksSoft = epoxy_has_gl_extension("GL_ARB_shader_stencil_export");
     for (const PlanetShape shape :
          {PlanetShape::tinySprite, PlanetShape::sprite, PlanetShape::quad}) {
-        for (const bool textured : {false, true}) {
-            if (!textured && shape == PlanetShape::tinySprite)
+        for (const auto& [textured, inPieces] :
+             {std::pair{false, false}, {true, false}, {false, true}, {true, true}}) {
+            if ((!textured && shape == PlanetShape::tinySprite) ||
+                (inPieces && shape == PlanetShape::quad))
                 continue;
-            PlanetProgram& shader = program(shape, textured);
-            auto built = buildProgram(planetVertexShader(shape),
+            PlanetProgram& shader = program({0, 0, textured, shape, false, inPieces});
+            auto built = buildProgram(planetVertexShader(shape, inPieces),
                                       planetFragmentShader(shape, textured, marksSoft), error);
             if (!built)
                 return false;
@@ -346,20 +351,22 @@ void RendererState::drawInstances(const std::vector<PlanetDraw>& planetDraws,
             glEnable(GL_DEPTH_TEST);
             glEnable(GL_BLEND);
         }
-        useProgram(program(draw.shape, draw.textured), uniforms);
+        useProgram(program(draw), uniforms);
         const auto count = static_cast<GLsizei>(draw.count);
-        if (draw.shape != PlanetShape::quad) {
+        if (draw.shape != PlanetShape::quad && !draw.inPieces) {
             glBindVertexArray(spriteVertices.id());
             glDrawArrays(GL_POINTS, static_cast<GLint>(draw.first), count);
-        } else {
-            glBindVertexArray(quadVertices.id());
-            pointAttributesAt(draw.first);
-            for (GLenum plane = 0; plane < 4; ++plane)
-                glEnable(GL_CLIP_DISTANCE0 + plane);
-            glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, count);
-            for (GLenum plane = 0; plane < 4; ++plane)
-                glDisable(GL_CLIP_DISTANCE0 + plane);
+            continue;
         }
+        // Quads are cut to their piece of the picture; sprites in pieces are those pieces.
+        const bool cut = draw.shape == PlanetShape::quad;
+        glBindVertexArray(quadVertices.id());
+        pointAttributesAt(draw.first);
+        for (GLenum plane = 0; plane < 4 && cut; ++plane)
+            glEnable(GL_CLIP_DISTANCE0 + plane);
+        glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, count);
+        for (GLenum plane = 0; plane < 4 && cut; ++plane)
+            glDisable(GL_CLIP_DISTANCE0 + plane);
     }
     glBindVertexArray(0);
     glActiveTexture(GL_TEXTURE0);

@@ -39,7 +39,7 @@ std::unique_ptr<FloorPass> FloorPass::create(const SceneView& view, int width, i
     const render::PlanetInstance& planet = planets.front();
     const bool textured = planet.rampRow >= 0.0f || planet.surfaceLayer >= 0.0f;
     auto built = render::buildProgram(
-        render::planetVertexShader(render::PlanetShape::quad),
+        render::planetVertexShader(render::PlanetShape::quad, false),
         render::planetFragmentShader(render::PlanetShape::quad, textured, false), error);
     if (!built)
         return nullptr;
