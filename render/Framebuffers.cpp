@@ -11,10 +11,6 @@ int queryInt(GLenum name) {
     return value;
 }
 
-std::string sizeText(int width, int height) {
-    return std::to_string(width) + " x " + std::to_string(height);
-}
-
 // Checks the framebuffer just built; drains errors such as running out of memory.
 bool framebufferComplete(int width, int height, std::string* error) {
     const GLenum status = glCheckFramebufferStatus(GL_FRAMEBUFFER);
@@ -25,30 +21,41 @@ bool framebufferComplete(int width, int height, std::string* error) {
     if (status == GL_FRAMEBUFFER_COMPLETE && !outOfMemory)
         return true;
     if (error != nullptr)
-        *error = outOfMemory
-                     ? "not enough memory for a picture of " + sizeText(width, height) + " pixels"
-                     : "OpenGL cannot draw a picture of " + sizeText(width, height) + " pixels";
+        *error = (outOfMemory ? "not enough memory for " : "OpenGL cannot draw ") +
+                 pictureText(width, height);
     return false;
 }
 
 } // namespace
 
-bool pictureSizeSupported(int width, int height, std::string* error) {
-    if (width <= 0 || height <= 0) {
-        if (error != nullptr)
-            *error = "a picture of " + sizeText(width, height) + " pixels is empty";
-        return false;
-    }
+std::string pictureText(int width, int height) {
+    return "a picture of " + std::to_string(width) + " x " + std::to_string(height) + " pixels";
+}
+
+bool pictureNotEmpty(int width, int height, std::string* error) {
+    if (width > 0 && height > 0)
+        return true;
+    if (error != nullptr)
+        *error = pictureText(width, height) + " is empty";
+    return false;
+}
+
+int largestCanvasSide() {
     GLint viewport[2] = {0, 0};
     glGetIntegerv(GL_MAX_VIEWPORT_DIMS, viewport);
-    const int limit = std::min({queryInt(GL_MAX_TEXTURE_SIZE), queryInt(GL_MAX_RENDERBUFFER_SIZE),
-                                static_cast<int>(viewport[0]), static_cast<int>(viewport[1])});
+    return std::min({queryInt(GL_MAX_TEXTURE_SIZE), queryInt(GL_MAX_RENDERBUFFER_SIZE),
+                     static_cast<int>(viewport[0]), static_cast<int>(viewport[1])});
+}
+
+bool pictureSizeSupported(int width, int height, std::string* error) {
+    if (!pictureNotEmpty(width, height, error))
+        return false;
+    const int limit = largestCanvasSide();
     if (width <= limit && height <= limit)
         return true;
     if (error != nullptr)
-        *error = "a picture of " + sizeText(width, height) +
-                 " pixels is larger than this OpenGL allows (" + std::to_string(limit) +
-                 " pixels a side)";
+        *error = pictureText(width, height) + " is larger than this OpenGL allows (" +
+                 std::to_string(limit) + " pixels a side)";
     return false;
 }
 

@@ -31,6 +31,15 @@ private:
     int height_ = 0;
 };
 
+// "a picture of W x H pixels", for messages.
+std::string pictureText(int width, int height);
+
+// Whether a picture of that size has any pixel; a message saying it is empty when not.
+bool pictureNotEmpty(int width, int height, std::string* error);
+
+// The largest side of a canvas this OpenGL can draw.
+int largestCanvasSide();
+
 // Whether OpenGL can hold a picture of that size at all; a message naming the limit
 // when it cannot.
 bool pictureSizeSupported(int width, int height, std::string* error);

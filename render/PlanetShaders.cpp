@@ -23,6 +23,7 @@ layout(location = 3) in vec4 drawnPixels; // the box of pixels to draw: left, bo
 uniform mat4 projection;
 uniform float pixelAngle; // radians per pixel in the middle of the view
 uniform vec4 viewport;    // x, y, width, height in pixels
+uniform vec4 tile;        // the part of the picture drawn: x, y, width, height in its pixels
 uniform vec2 ndcToRay;
 
 flat out vec3 vCenter;
@@ -67,14 +68,14 @@ void main() {
     // would not, but for ones beside the silhouette, which the fragment shader leaves alone.
     vec2 corner = vec2((gl_VertexID & 1) != 0 ? drawnPixels.z : drawnPixels.x,
                        (gl_VertexID & 2) != 0 ? drawnPixels.w : drawnPixels.y);
-    gl_Position = vec4(corner / viewport.zw * 2.0 - 1.0, 0.0, 1.0);
+    gl_Position = vec4((corner - tile.xy) / tile.zw * 2.0 - 1.0, 0.0, 1.0);
 #else
     vec2 low = max(boxLow, drawnPixels.xy) - EDGE_MARGIN;
     vec2 high = min(boxHigh, drawnPixels.zw) + EDGE_MARGIN;
-    vec2 middle = clamp((low + high) * 0.5, vec2(0.5), viewport.zw - 0.5);
+    vec2 middle = clamp((low + high) * 0.5, tile.xy + 0.5, tile.xy + tile.zw - 0.5);
     vec2 reach = max(middle - low, high - middle);
     gl_PointSize = 2.0 * max(reach.x, reach.y);
-    gl_Position = vec4(middle / viewport.zw * 2.0 - 1.0, 0.0, 1.0);
+    gl_Position = vec4((middle - tile.xy) / tile.zw * 2.0 - 1.0, 0.0, 1.0);
 #endif
 #else
     float distance2 = dot(center, center);
@@ -100,15 +101,19 @@ void main() {
     gl_ClipDistance[1] = gl_Position.y - box.y * gl_Position.w;
     gl_ClipDistance[2] = box.z * gl_Position.w - gl_Position.x;
     gl_ClipDistance[3] = box.w * gl_Position.w - gl_Position.y;
+    // From the picture's clip space to the tile's.
+    gl_Position.xy = gl_Position.xy * (viewport.zw / tile.zw) +
+                     gl_Position.w * ((viewport.zw - 2.0 * tile.xy) / tile.zw - 1.0);
 #endif
 }
 )";
 
-// Ray casting per pixel: exact silhouette, depth and normal of a true sphere. The edge is
-// smoothed by the share of the pixel the silhouette covers; planets arrive back to front,
-// so a soft edge blends over whatever lies behind it. Built twice: with TEXTURED for planets
-// with a gradient or a surface, and without for plain coloured ones, because a software
-// renderer runs both sides of a branch and would pay for the textures on every pixel.
+// Ray casting per pixel, in the picture's pixels (gl_FragCoord less viewport.xy, which moves a
+// tile of the picture to its place): exact silhouette, depth and normal of a true sphere. The edge
+// is smoothed by the share of the pixel the silhouette covers; planets arrive back to front, so a
+// soft edge blends over whatever lies behind it. Built twice: with TEXTURED for planets with a
+// gradient or a surface, and without for plain coloured ones, because a software renderer runs both
+// sides of a branch and would pay for the textures on every pixel.
 constexpr const char* kPlanetFragmentShader = R"(
 const float kPi = 3.14159265358979;
 

@@ -19,11 +19,13 @@ std::array<float, 16> toFloats(const std::array<double, 16>& matrix) {
 
 PlanetUniforms planetUniforms(const CameraProjection& camera,
                               const std::optional<SceneLight>& light, int width, int height,
-                              int surfaceWidth) {
+                              const PixelRect& tile, int surfaceWidth) {
     PlanetUniforms uniforms;
     uniforms.projection = toFloats(camera.matrix());
     uniforms.pixelAngle = static_cast<float>(2.0 * camera.ndcToRayY() / height);
     uniforms.viewport = {static_cast<float>(width), static_cast<float>(height)};
+    uniforms.tile = {static_cast<float>(tile.x), static_cast<float>(tile.y),
+                     static_cast<float>(tile.width), static_cast<float>(tile.height)};
     uniforms.ndcToRay = {static_cast<float>(camera.ndcToRayX()),
                          static_cast<float>(camera.ndcToRayY())};
     const Vec3 lightOffset = light ? light->position - camera.eye() : Vec3{};

@@ -5,6 +5,7 @@
 #include "render/GlObject.h"
 #include "render/GradientRamps.h"
 #include "render/PictureFinish.h"
+#include "render/PictureTiles.h"
 #include "render/PlanetDraws.h"
 #include "render/PlanetInstances.h"
 #include "render/PlanetList.h"
@@ -26,6 +27,9 @@ namespace {
 constexpr int kRampUnit = 0;
 constexpr int kSurfaceUnit = 1;
 constexpr int kNeededGlVersion = 33;
+// Pictures larger than this a side are drawn in tiles: what they need beyond the picture
+// itself stays the same, whatever their size.
+constexpr int kPictureTileSide = 2048;
 
 const char* glText(GLenum name) {
     const auto* text = reinterpret_cast<const char*>(glGetString(name));
@@ -39,6 +43,7 @@ struct PlanetProgram {
     GLint projection = -1;
     GLint pixelAngle = -1;
     GLint viewport = -1;
+    GLint tile = -1;
     GLint ndcToRay = -1;
     GLint lightPosition = -1;
     GLint lightColor = -1;
@@ -107,19 +112,20 @@ public:
     bool render(const Scene& scene, const CameraProjection& camera, GLuint target, int width,
                 int height, bool overBackdrop, std::string* error);
     std::optional<Image> renderImage(const Scene& scene, const CameraProjection& camera, int width,
-                                     int height, std::string* error);
+                                     int height, std::string* error, const PictureTiling& tiling);
     std::string description() const;
     void setBackdrop(const Image& backdrop);
     bool hasBackdrop() const { return finishing.hasBackdrop(); }
 
 private:
     bool drawFrame(const Scene& scene, const CameraProjection& camera, int width, int height,
-                   bool overBackdrop, std::string* error);
+                   const PixelRect& tile, bool overBackdrop, std::string* error);
     bool drewWithoutError(std::string* error);
     void refreshPlanets(const Scene& scene, const CameraProjection& camera, int width, int height);
     bool patchPlanets(const Scene& scene, const ScreenFrame& frame);
     void upload(const PlanetList::Pass& pass);
-    DrawnArea drawPlanets(const CameraProjection& camera, int width, int height);
+    DrawnArea drawPlanets(const CameraProjection& camera, int width, int height,
+                          const PixelRect& tile);
     void drawInstances(const std::vector<PlanetDraw>& planetDraws, const PlanetUniforms& uniforms);
     void useProgram(const PlanetProgram& shader, const PlanetUniforms& uniforms);
     void pointAttributesAt(std::size_t first);
@@ -162,7 +168,7 @@ private:
     // The planets and draws of a pass over the whole canvas, kept while the planets are,
     // and of a part of it drawn again.
     PlanetList::Pass wholePass;
-    bool wholePassKept = false;
+    std::optional<PixelRect> wholePassTile; // the tile it is for; none when not kept
     bool bufferHoldsWholePass = false;
     PlanetList::Pass partPass;
     std::optional<SceneLight> light;
@@ -197,6 +203,7 @@ bool RendererState::build(std::string* error) {
             shader.projection = glGetUniformLocation(p, "projection");
             shader.pixelAngle = glGetUniformLocation(p, "pixelAngle");
             shader.viewport = glGetUniformLocation(p, "viewport");
+            shader.tile = glGetUniformLocation(p, "tile");
             shader.ndcToRay = glGetUniformLocation(p, "ndcToRay");
             shader.lightPosition = glGetUniformLocation(p, "lightPosition");
             shader.lightColor = glGetUniformLocation(p, "lightColor");
@@ -249,7 +256,7 @@ void RendererState::refreshPlanets(const Scene& scene, const CameraProjection& c
     if (planets.hasChanges()) {
         groupPlanetDraws(planets.instances(), frame, draws);
         changedArea = planets.takeChangedArea(draws);
-        wholePassKept = false;
+        wholePassTile.reset();
     }
     sceneId = scene.id();
     sceneRevision = scene.revision();
@@ -275,9 +282,10 @@ void RendererState::upload(const PlanetList::Pass& pass) {
     pixelsBuffer.upload(pass.pixels);
 }
 
-DrawnArea RendererState::drawPlanets(const CameraProjection& camera, int width, int height) {
+DrawnArea RendererState::drawPlanets(const CameraProjection& camera, int width, int height,
+                                     const PixelRect& tile) {
     const PlanetUniforms uniforms =
-        planetUniforms(camera, light, width, height, surfaces.layerWidth());
+        planetUniforms(camera, light, width, height, tile, surfaces.layerWidth());
     // Drawn with other values, every pixel may differ; with the same, only where planets
     // changed.
     std::optional<PixelRect> part;
@@ -285,12 +293,14 @@ DrawnArea RendererState::drawPlanets(const CameraProjection& camera, int width, 
         if (!changedArea)
             return {};
         part = pixelsOf(*changedArea, width, height);
+        if (part)
+            part = overlapOf(*part, tile).value_or(PixelRect{tile.x, tile.y, 0, 0});
     }
     changedArea.reset();
     canvasUniforms = uniforms;
 
     glBindFramebuffer(GL_FRAMEBUFFER, canvas.planetsFramebuffer());
-    glViewport(0, 0, width, height);
+    glViewport(0, 0, tile.width, tile.height);
     glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     glDepthMask(GL_TRUE);
     glStencilMask(0xFF);
@@ -301,19 +311,19 @@ DrawnArea RendererState::drawPlanets(const CameraProjection& camera, int width, 
     const DepthFrame depthFrame{sceneFrame, projection[10], projection[14]};
     if (part) {
         glEnable(GL_SCISSOR_TEST);
-        glScissor(part->x, part->y, part->width, part->height);
+        glScissor(part->x - tile.x, part->y - tile.y, part->width, part->height);
         planets.passOver(*part, draws, depthFrame, opaqueRamps, partPass);
         upload(partPass);
         bufferHoldsWholePass = false;
         canvasSoft = unite(canvasSoft, partPass.soft);
     } else {
         glDisable(GL_SCISSOR_TEST);
-        if (!wholePassKept)
-            planets.passOver(PixelRect{0, 0, width, height}, draws, depthFrame, opaqueRamps,
-                             wholePass);
-        if (!wholePassKept || !bufferHoldsWholePass)
+        if (wholePassTile != tile)
+            planets.passOver(tile, draws, depthFrame, opaqueRamps, wholePass);
+        if (wholePassTile != tile || !bufferHoldsWholePass)
             upload(wholePass);
-        wholePassKept = bufferHoldsWholePass = true;
+        wholePassTile = tile;
+        bufferHoldsWholePass = true;
         canvasSoft = wholePass.soft;
     }
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT | GL_STENCIL_BUFFER_BIT);
@@ -379,7 +389,10 @@ void RendererState::useProgram(const PlanetProgram& shader, const PlanetUniforms
     glUseProgram(shader.program.id());
     glUniformMatrix4fv(shader.projection, 1, GL_FALSE, uniforms.projection.data());
     glUniform1f(shader.pixelAngle, uniforms.pixelAngle);
-    glUniform4f(shader.viewport, 0.0f, 0.0f, uniforms.viewport[0], uniforms.viewport[1]);
+    // A pixel of the tile lies at gl_FragCoord less viewport.xy in the picture.
+    glUniform4f(shader.viewport, -uniforms.tile[0], -uniforms.tile[1], uniforms.viewport[0],
+                uniforms.viewport[1]);
+    glUniform4fv(shader.tile, 1, uniforms.tile.data());
     glUniform2f(shader.ndcToRay, uniforms.ndcToRay[0], uniforms.ndcToRay[1]);
     glUniform3fv(shader.lightPosition, 1, uniforms.lightPosition.data());
     glUniform3fv(shader.lightColor, 1, uniforms.lightColor.data());
@@ -410,22 +423,29 @@ void RendererState::setBackdrop(const Image& image) {
 }
 
 bool RendererState::drawFrame(const Scene& scene, const CameraProjection& camera, int width,
-                              int height, bool overBackdrop, std::string* error) {
+                              int height, const PixelRect& tile, bool overBackdrop,
+                              std::string* error) {
     // Errors left over from whoever used the context before are not ours to report.
     while (glGetError() != GL_NO_ERROR) {
     }
-    if (!canvas.ensureSize(width, height, error)) {
+    if (!canvas.ensureSize(tile.width, tile.height, error)) {
         canvasUniforms.reset();
         finishedOverBackdrop.reset();
         return false;
     }
     refreshPlanets(scene, camera, width, height);
-    const DrawnArea drawn = drawPlanets(camera, width, height);
-    const PixelRect whole{0, 0, width, height};
+    const DrawnArea drawn = drawPlanets(camera, width, height, tile);
+    // The finishing works on the canvas's own pixels.
+    const auto local = [&tile](const PixelRect& rect) {
+        return PixelRect{rect.x - tile.x, rect.y - tile.y, rect.width, rect.height};
+    };
+    const std::optional<PixelRect> soft =
+        canvasSoft ? std::optional(local(*canvasSoft)) : std::nullopt;
+    const PixelRect whole = local(tile);
     if (finishedOverBackdrop != overBackdrop)
-        finishing.finish(canvas, whole, canvasSoft, width, height, overBackdrop);
+        finishing.finish(canvas, whole, soft, tile.width, tile.height, overBackdrop);
     else if (drawn.any)
-        finishing.finish(canvas, drawn.part.value_or(whole), canvasSoft, width, height,
+        finishing.finish(canvas, local(drawn.part.value_or(tile)), soft, tile.width, tile.height,
                          overBackdrop);
     finishedOverBackdrop = overBackdrop;
     return true;
@@ -447,7 +467,8 @@ bool RendererState::drewWithoutError(std::string* error) {
 
 bool RendererState::render(const Scene& scene, const CameraProjection& camera, GLuint target,
                            int width, int height, bool overBackdrop, std::string* error) {
-    if (!drawFrame(scene, camera, width, height, overBackdrop, error))
+    if (!drawFrame(scene, camera, width, height, PixelRect{0, 0, width, height}, overBackdrop,
+                   error))
         return false;
     glBindFramebuffer(GL_READ_FRAMEBUFFER, canvas.pictureFramebuffer());
     glBindFramebuffer(GL_DRAW_FRAMEBUFFER, target);
@@ -457,21 +478,45 @@ bool RendererState::render(const Scene& scene, const CameraProjection& camera, G
 }
 
 std::optional<Image> RendererState::renderImage(const Scene& scene, const CameraProjection& camera,
-                                                int width, int height, std::string* error) {
-    if (!drawFrame(scene, camera, width, height, false, error))
+                                                int width, int height, std::string* error,
+                                                const PictureTiling& tiling) {
+    if (!pictureNotEmpty(width, height, error))
         return std::nullopt;
-    Image image(width, height);
-    glBindFramebuffer(GL_READ_FRAMEBUFFER, canvas.pictureFramebuffer());
-    glPixelStorei(GL_PACK_ALIGNMENT, 1);
-    glReadPixels(0, 0, width, height, GL_RGBA, GL_UNSIGNED_BYTE, image.pixels.data());
-    glBindFramebuffer(GL_READ_FRAMEBUFFER, 0);
-    if (!drewWithoutError(error))
+    if (width > kLargestPictureSide || height > kLargestPictureSide) {
+        if (error != nullptr)
+            *error = pictureText(width, height) + " is larger than the renderer draws (" +
+                     std::to_string(kLargestPictureSide) + " pixels a side)";
         return std::nullopt;
-    // OpenGL reads bottom row first.
-    for (int top = 0, bottom = height - 1; top < bottom; ++top, --bottom)
-        std::swap_ranges(image.pixel(0, top), image.pixel(0, top) + image.stride(),
-                         image.pixel(0, bottom));
-    return image;
+    }
+    const int side =
+        std::min(tiling.tileSide > 0 ? tiling.tileSide : kPictureTileSide, largestCanvasSide());
+    const std::vector<PixelRect> tiles = pictureTiles(width, height, side);
+    Image picture;
+    std::vector<std::uint8_t> tilePixels;
+    try {
+        picture = Image(width, height);
+        tilePixels.resize(static_cast<std::size_t>(std::min(side, width)) *
+                          static_cast<std::size_t>(std::min(side, height)) * 4);
+    } catch (const std::bad_alloc&) {
+        if (error != nullptr)
+            *error = "not enough memory for " + pictureText(width, height);
+        return std::nullopt;
+    }
+    for (std::size_t done = 0; done < tiles.size(); ++done) {
+        const PixelRect& tile = tiles[done];
+        if (!drawFrame(scene, camera, width, height, tile, false, error))
+            return std::nullopt;
+        glBindFramebuffer(GL_READ_FRAMEBUFFER, canvas.pictureFramebuffer());
+        glPixelStorei(GL_PACK_ALIGNMENT, 1);
+        glReadPixels(0, 0, tile.width, tile.height, GL_RGBA, GL_UNSIGNED_BYTE, tilePixels.data());
+        glBindFramebuffer(GL_READ_FRAMEBUFFER, 0);
+        if (!drewWithoutError(error))
+            return std::nullopt;
+        placeTile(tilePixels, tile, picture);
+        if (tiling.progress)
+            tiling.progress(static_cast<int>(done + 1), static_cast<int>(tiles.size()));
+    }
+    return picture;
 }
 
 std::string RendererState::description() const {
@@ -505,13 +550,14 @@ bool Renderer::render(const Scene& scene, const CameraProjection& camera, unsign
 }
 
 std::optional<Image> Renderer::renderImage(const SceneView& view, int width, int height,
-                                           std::string* error) {
-    return renderImage(view.scene(), view.projection(width, height), width, height, error);
+                                           std::string* error, const PictureTiling& tiling) {
+    return renderImage(view.scene(), view.projection(width, height), width, height, error, tiling);
 }
 
 std::optional<Image> Renderer::renderImage(const Scene& scene, const CameraProjection& camera,
-                                           int width, int height, std::string* error) {
-    return state_->renderImage(scene, camera, width, height, error);
+                                           int width, int height, std::string* error,
+                                           const PictureTiling& tiling) {
+    return state_->renderImage(scene, camera, width, height, error, tiling);
 }
 
 std::string Renderer::description() const {
