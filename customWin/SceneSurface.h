@@ -6,6 +6,7 @@
 
 #include <QOpenGLWindow>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -30,7 +31,8 @@ public:
     ~SceneSurface() override;
 
     SceneView& scene() { return scene_; }
-    std::optional<Image> picture(std::string* error);
+    std::optional<Image> picture(std::string* error,
+                                 const std::function<void(int done, int total)>& progress);
     const QString& rendererProblem() const { return rendererProblem_; }
     // The backdrop looks different: it is handed to the renderer again and drawn.
     void backdropChanged();

@@ -46,8 +46,10 @@ SceneView& sceneView::scene() {
     return surface_->scene();
 }
 
-std::optional<Image> sceneView::imageFromSceneKitView(std::string* error) {
-    return surface_->picture(error);
+std::optional<Image>
+sceneView::imageFromSceneKitView(std::string* error,
+                                 const std::function<void(int done, int total)>& progress) {
+    return surface_->picture(error, progress);
 }
 
 QImage sceneView::grabFramebuffer() {

@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QWidget>
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -32,8 +33,11 @@ public:
     SceneView& scene();
 
     // The view's pixels at the backing scale, top row first, straight alpha; none, with
-    // the reason in `error`, when the picture cannot be drawn.
-    std::optional<Image> imageFromSceneKitView(std::string* error = nullptr);
+    // the reason in `error`, when the picture cannot be drawn. A large picture is drawn in
+    // parts, each reported to `progress` (parts done, parts).
+    std::optional<Image>
+    imageFromSceneKitView(std::string* error = nullptr,
+                          const std::function<void(int done, int total)>& progress = {});
     // What the window shows there now, backdrop included.
     QImage grabFramebuffer();
     // Draws the scene again at the next frame.
