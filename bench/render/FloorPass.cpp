@@ -67,7 +67,8 @@ std::unique_ptr<FloorPass> FloorPass::create(const SceneView& view, int width, i
     glBindVertexArray(0);
 
     const render::PlanetUniforms uniforms = render::planetUniforms(
-        camera, render::findLight(root), width, height, pass->surfaces_.layerWidth());
+        camera, render::findLight(root), width, height, render::PixelRect{0, 0, width, height},
+        pass->surfaces_.layerWidth());
     const GLuint p = pass->program_.id();
     glUseProgram(p);
     glUniformMatrix4fv(glGetUniformLocation(p, "projection"), 1, GL_FALSE,
@@ -75,6 +76,7 @@ std::unique_ptr<FloorPass> FloorPass::create(const SceneView& view, int width, i
     glUniform1f(glGetUniformLocation(p, "pixelAngle"), uniforms.pixelAngle);
     glUniform4f(glGetUniformLocation(p, "viewport"), 0.0f, 0.0f, uniforms.viewport[0],
                 uniforms.viewport[1]);
+    glUniform4fv(glGetUniformLocation(p, "tile"), 1, uniforms.tile.data());
     glUniform2f(glGetUniformLocation(p, "ndcToRay"), uniforms.ndcToRay[0], uniforms.ndcToRay[1]);
     glUniform3fv(glGetUniformLocation(p, "lightPosition"), 1, uniforms.lightPosition.data());
     glUniform3fv(glGetUniformLocation(p, "lightColor"), 1, uniforms.lightColor.data());
