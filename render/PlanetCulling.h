@@ -1,10 +1,12 @@
 #pragma once
 
+#include "render/CoverGrid.h"
 #include "render/PlanetDraws.h"
 #include "render/PlanetInstances.h"
 #include "render/PlanetUniforms.h"
 
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -47,6 +49,13 @@ struct PassPlanet {
     std::size_t pieceCount = 0;
 };
 
+// What the roles need of a planet, as depth buffer values.
+struct PlanetDepths {
+    double nearest = -std::numeric_limits<double>::infinity(); // -inf: it reaches the eye
+    double farthest = std::numeric_limits<double>::infinity();
+    double innerCosine = 2.0; // of its inner disc's angular radius; above 1 for none
+};
+
 struct PassPlan {
     std::vector<PassPlanet> planets; // beside the candidates
     std::vector<PixelRect> pieces;
@@ -54,6 +63,16 @@ struct PassPlan {
     // behind show (a soft edge, a translucent planet); none: the pass leaves every pixel
     // empty or opaque.
     std::optional<PixelRect> soft;
+
+    // What planning works with, kept from one pass to the next for its memory.
+    struct Work {
+        CoverGrid grid;
+        std::vector<Span> spans;
+        std::vector<PlanetDepths> depths;
+        std::vector<Columns> inner;
+        std::vector<Columns> shown;
+        std::vector<PixelRect> pieces; // nearest planet first
+    } work;
 };
 
 // The part of each candidate, given in drawing order, in a pass that draws `area`; replaces

@@ -27,7 +27,8 @@ struct Pass {
     std::optional<PixelRect> soft;
 };
 
-Pass planPass(const std::vector<OnScreen>& planets) {
+Pass planPass(const std::vector<OnScreen>& planets,
+              const PixelRect& area = {0, 0, kWidth, kHeight}) {
     const CameraProjection camera({0, 0, 0}, 45.0, kWidth, kHeight, DepthRange{100.0, 5000.0});
     const std::array<double, 16> matrix = camera.matrix();
     const DepthFrame frame{
@@ -55,7 +56,7 @@ Pass planPass(const std::vector<OnScreen>& planets) {
                               planet.color[3] == 1.0f});
     }
     PassPlan plan;
-    assignPassRoles(candidates, frame, {0, 0, kWidth, kHeight}, plan);
+    assignPassRoles(candidates, frame, area, plan);
     Pass pass{{}, plan.soft};
     for (const PassPlanet& planet : plan.planets)
         pass.roles.push_back(planet.role);
@@ -64,21 +65,35 @@ Pass planPass(const std::vector<OnScreen>& planets) {
 
 using enum PassRole;
 
-// Planets given farthest first, as they are drawn.
+// The roles of planets given farthest first, as they are drawn, over the middle of the
+// picture, behind which two far planets fill it: enough painting over that culling pays.
+std::vector<PassRole> rolesBeforeFillers(std::vector<OnScreen> planets) {
+    const OnScreen filler{400, 300, 300, 4800};
+    planets.insert(planets.begin(), {filler, filler});
+    std::vector<PassRole> roles = planPass(planets, {200, 100, 400, 400}).roles;
+    return {roles.begin() + 2, roles.end()};
+}
+
 TEST(PlanetCulling, LeavesOutOnlyWhatCannotShow) {
     const OnScreen large{400, 300, 150, 1000};
-    // Wholly behind an opaque planet's inner disc: left out, and the large one is alone.
-    EXPECT_EQ(planPass({{400, 300, 20, 2000}, large}).roles, (std::vector{hidden, alone}));
+    // Wholly behind an opaque planet's inner disc: left out.
+    EXPECT_EQ(rolesBeforeFillers({{400, 300, 20, 2000}, large}), (std::vector{hidden, shared}));
     // Through a translucent planet, or past the edge of an opaque one, it shows.
     OnScreen translucent = large;
     translucent.alpha = 0.5f;
-    EXPECT_EQ(planPass({{400, 300, 20, 2000}, translucent}).roles, (std::vector{shared, shared}));
-    EXPECT_EQ(planPass({{545, 300, 20, 2000}, large}).roles, (std::vector{shared, shared}));
+    EXPECT_EQ(rolesBeforeFillers({{400, 300, 20, 2000}, translucent}),
+              (std::vector{shared, shared}));
+    EXPECT_EQ(rolesBeforeFillers({{545, 300, 20, 2000}, large}), (std::vector{shared, shared}));
     // Nearer than the large planet, though drawn before it, it shows too.
-    EXPECT_EQ(planPass({{400, 300, 20, 700}, large}).roles, (std::vector{shared, shared}));
-    // Apart, each is alone.
+    EXPECT_EQ(rolesBeforeFillers({{400, 300, 20, 700}, large}), (std::vector{shared, shared}));
+}
+
+// Planets that share no pixel are each drawn alone; one behind another is not.
+TEST(PlanetCulling, PlanetsApartAreAlone) {
     EXPECT_EQ(planPass({{200, 300, 30, 1000}, {600, 300, 30, 1000}}).roles,
               (std::vector{alone, alone}));
+    EXPECT_EQ(planPass({{200, 300, 30, 1000}, {220, 300, 30, 900}}).roles,
+              (std::vector{shared, shared}));
 }
 
 // The finishing pass need divide by alpha only where a soft edge lies on the picture.
