@@ -8,15 +8,14 @@
 #include "imageio/ImageFile.h"
 #include "imageio/SurfaceLibrary.h"
 #include "render/HeadlessRender.h"
+#include "render/Renderer.h"
 
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 namespace orrery::cli {
 namespace {
-
-// What OpenGL implementations, llvmpipe among them, can be relied on to draw into.
-constexpr int kMaxPictureSide = 16384;
 
 // Says early, before the rendering, that the file cannot be written; the write itself
 // still reports anything this cannot foresee.
@@ -52,11 +51,11 @@ int renderCommand(const std::vector<std::string>& arguments, const Streams& io) 
     const DocumentSize size = packageDocumentSize(project);
     const int width = scaledSide(size.width, options->scale);
     const int height = scaledSide(size.height, options->scale);
-    if (width < 1 || height < 1 || width > kMaxPictureSide || height > kMaxPictureSide)
+    if (width < 1 || height < 1 || width > kLargestPictureSide || height > kLargestPictureSide)
         return fail(io.err, io.program, kBadUsage,
                     "--scale " + std::to_string(options->scale) + " makes the picture " +
                         std::to_string(width) + " x " + std::to_string(height) +
-                        " pixels; each side must be 1 to " + std::to_string(kMaxPictureSide));
+                        " pixels; each side must be 1 to " + std::to_string(kLargestPictureSide));
     if (const std::string problem = outputFolderProblem(options->output); !problem.empty())
         return fail(io.err, io.program, kCannotWrite, options->output + ": " + problem);
 
@@ -66,14 +65,13 @@ int renderCommand(const std::vector<std::string>& arguments, const Streams& io) 
     const SurfaceSource surfaceSource = [&surfaces](const std::string& name) {
         return surfaces.surfaceNamed(name);
     };
-    const std::optional<Image> scene =
-        renderSceneHeadless(view, width, height, surfaceSource, &error);
+    std::optional<Image> scene = renderSceneHeadless(view, width, height, surfaceSource, &error);
     if (!scene)
         return fail(io.err, io.program, kCannotWrite,
                     options->output + ": the picture could not be drawn: " + error);
 
     const Image picture =
-        exportPicture(*scene, packageBackground(project), options->includeBackground);
+        exportPicture(std::move(*scene), packageBackground(project), options->includeBackground);
     error = imageio::writeImageFile(picture, options->output, options->format,
                                     compressionFactor(options->quality));
     if (!error.empty())

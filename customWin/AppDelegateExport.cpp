@@ -18,6 +18,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QSlider>
 #include <QTimer>
 
@@ -85,27 +86,39 @@ void AppDelegate::FileExport2(bool withBackground) {
 
 void AppDelegate::exportPicture(const QString& path, ExportFormat format, bool withBackground,
                                 float compression) {
-    std::string error;
-    const std::optional<Image> scene = sceneview().imageFromSceneKitView(
-        QSize(shownDocument_.width, shownDocument_.height), &error);
-    if (!scene) {
-        loadMenuStatus();
-        showFailure(text("exportFailedMsg"), error);
-        return;
-    }
-    const Image picture = orrery::exportPicture(*scene, state_.currentBackground, withBackground);
-    const std::string target = path.toStdString();
-    runWithProgress<std::string>(
-        *mainWindow_, text("exportImageSavingNewImage"),
-        [picture, target, format, compression] {
-            return imageio::writeImageFile(picture, target, format, compression);
-        },
-        [this](std::string& failure) {
+    // The sheet shows while the picture is drawn too: a large one, drawn in tiles, fills its
+    // bar, and the window keeps painting between tiles. The drawing starts from the event
+    // loop, once the save panel that asked for it is done with.
+    auto* progress = new ProgressSheet(text("exportImageSavingNewImage"), *mainWindow_);
+    progress->begin();
+    QTimer::singleShot(0, this, [this, progress, path, format, withBackground, compression] {
+        std::string error;
+        std::optional<Image> scene = sceneview().imageFromSceneKitView(
+            QSize(shownDocument_.width, shownDocument_.height), &error,
+            [progress](int done, int total) {
+                progress->setProgress(done, total);
+                QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+            });
+        if (!scene) {
+            progress->end();
             loadMenuStatus();
-            focusTable();
-            if (!failure.empty())
-                showFailure(text("exportFailedMsg"), failure);
-        });
+            showFailure(text("exportFailedMsg"), error);
+            return;
+        }
+        Image picture =
+            orrery::exportPicture(std::move(*scene), state_.currentBackground, withBackground);
+        runWithProgress<std::string>(
+            progress, *mainWindow_,
+            [picture = std::move(picture), target = path.toStdString(), format, compression] {
+                return imageio::writeImageFile(picture, target, format, compression);
+            },
+            [this](std::string& failure) {
+                loadMenuStatus();
+                focusTable();
+                if (!failure.empty())
+                    showFailure(text("exportFailedMsg"), failure);
+            });
+    });
 }
 
 } // namespace orrery::window

@@ -4,6 +4,7 @@
 
 #include <QLabel>
 #include <QPainter>
+#include <QProgressBar>
 
 namespace orrery::window {
 namespace {
@@ -49,7 +50,8 @@ void Spinner::paintEvent(QPaintEvent*) {
 }
 
 ProgressSheet::ProgressSheet(const QString& label, QWidget& window)
-    : QDialog(&window), spinner_(new Spinner(this)), label_(new QLabel(label, this)) {
+    : QDialog(&window), spinner_(new Spinner(this)), label_(new QLabel(label, this)),
+      bar_(new QProgressBar(this)) {
     setObjectName(QStringLiteral("progressSheet"));
     setWindowTitle(label);
     makeSheet(*this);
@@ -60,12 +62,25 @@ ProgressSheet::ProgressSheet(const QString& label, QWidget& window)
     label_->setGeometry(80, 50, 240, 46);
     label_->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     label_->setWordWrap(true);
+    bar_->setObjectName(QStringLiteral("progressBar"));
+    bar_->setAccessibleName(label);
+    bar_->setGeometry(100, 88, 200, 12);
+    bar_->setTextVisible(false);
+    bar_->hide();
 }
 
 void ProgressSheet::begin() {
     open();
     placeAsSheet(*this, *parentWidget());
     spinner_->start();
+}
+
+void ProgressSheet::setProgress(int done, int total) {
+    if (total <= 1)
+        return;
+    bar_->setRange(0, total);
+    bar_->setValue(done);
+    bar_->show();
 }
 
 void ProgressSheet::end() {

@@ -8,6 +8,7 @@
 #include <functional>
 
 class QLabel;
+class QProgressBar;
 
 namespace orrery::window {
 
@@ -36,19 +37,21 @@ public:
     ProgressSheet(const QString& label, QWidget& window);
     void begin();
     void end();
+    // How much of the work is done. Work that comes in several steps (a picture drawn in
+    // tiles) takes more than a moment: a bar shows it.
+    void setProgress(int done, int total);
 
 private:
     Spinner* spinner_;
     QLabel* label_;
+    QProgressBar* bar_;
 };
 
-// Runs `work` on a worker thread while the progress sheet turns on the window, then `done`
-// with its result back on the main thread, after the sheet has gone.
+// Runs `work` on a worker thread while the progress sheet, already begun, turns on the
+// window, then `done` with its result back on the main thread, after the sheet has gone.
 template <typename Result>
-void runWithProgress(QWidget& window, const QString& label, std::function<Result()> work,
+void runWithProgress(ProgressSheet* progress, QWidget& window, std::function<Result()> work,
                      std::function<void(Result&)> done) {
-    auto* progress = new ProgressSheet(label, window);
-    progress->begin();
     auto* watcher = new QFutureWatcher<Result>(progress);
     QObject::connect(watcher, &QFutureWatcher<Result>::finished, &window,
                      [watcher, progress, done = std::move(done)] {
@@ -57,6 +60,15 @@ void runWithProgress(QWidget& window, const QString& label, std::function<Result
                          done(result);
                      });
     watcher->setFuture(QtConcurrent::run(std::move(work)));
+}
+
+// The same behind a progress sheet of its own.
+template <typename Result>
+void runWithProgress(QWidget& window, const QString& label, std::function<Result()> work,
+                     std::function<void(Result&)> done) {
+    auto* progress = new ProgressSheet(label, window);
+    progress->begin();
+    runWithProgress(progress, window, std::move(work), std::move(done));
 }
 
 } // namespace orrery::window

@@ -109,7 +109,9 @@ void SceneSurface::paintGL() {
     emit framePainted();
 }
 
-std::optional<Image> SceneSurface::picture(QSize size, std::string* error) {
+std::optional<Image>
+SceneSurface::picture(QSize size, std::string* error,
+                      const std::function<void(int done, int total)>& progress) {
     if (context() == nullptr) {
         if (error != nullptr)
             *error = "the scene has not been shown yet";
@@ -123,8 +125,15 @@ std::optional<Image> SceneSurface::picture(QSize size, std::string* error) {
         return std::nullopt;
     }
     const qreal scale = devicePixelRatio();
-    std::optional<Image> picture = renderer_->renderImage(
-        scene_, devicePixels(size.width(), scale), devicePixels(size.height(), scale), error);
+    // Between tiles the progress may let the window paint, and another context be current.
+    const PictureTiling tiling{0, [this, &progress](int done, int total) {
+                                   if (progress)
+                                       progress(done, total);
+                                   makeCurrent();
+                               }};
+    std::optional<Image> picture =
+        renderer_->renderImage(scene_, devicePixels(size.width(), scale),
+                               devicePixels(size.height(), scale), error, tiling);
     doneCurrent();
     return picture;
 }

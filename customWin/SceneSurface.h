@@ -6,6 +6,7 @@
 
 #include <QOpenGLWindow>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -30,8 +31,10 @@ public:
     ~SceneSurface() override;
 
     SceneView& scene() { return scene_; }
-    // The scene at `size` points times the backing scale.
-    std::optional<Image> picture(QSize size, std::string* error);
+    // The scene at `size` points times the backing scale; a large picture is drawn in parts,
+    // each reported to `progress` (parts done, parts).
+    std::optional<Image> picture(QSize size, std::string* error,
+                                 const std::function<void(int done, int total)>& progress);
     const QString& rendererProblem() const { return rendererProblem_; }
     // The backdrop looks different: it is handed to the renderer again and drawn.
     void backdropChanged();

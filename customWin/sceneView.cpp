@@ -46,8 +46,10 @@ SceneView& sceneView::scene() {
     return surface_->scene();
 }
 
-std::optional<Image> sceneView::imageFromSceneKitView(QSize size, std::string* error) {
-    return surface_->picture(size, error);
+std::optional<Image>
+sceneView::imageFromSceneKitView(QSize size, std::string* error,
+                                 const std::function<void(int done, int total)>& progress) {
+    return surface_->picture(size, error, progress);
 }
 
 QImage sceneView::grabFramebuffer() {

@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QWidget>
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -33,8 +34,11 @@ public:
 
     // The picture of the scene at `size` points (the document's size, which the view may
     // show scaled) at the backing scale, top row first, straight alpha; none, with the
-    // reason in `error`, when the picture cannot be drawn.
-    std::optional<Image> imageFromSceneKitView(QSize size, std::string* error = nullptr);
+    // reason in `error`, when the picture cannot be drawn. A large picture is drawn in
+    // parts, each reported to `progress` (parts done, parts).
+    std::optional<Image>
+    imageFromSceneKitView(QSize size, std::string* error = nullptr,
+                          const std::function<void(int done, int total)>& progress = {});
     // What the window shows there now, backdrop included.
     QImage grabFramebuffer();
     // Draws the scene again at the next frame.

@@ -3,6 +3,7 @@
 #include "imageio/AtomicWrite.h"
 #include "imageio/ImageEncoder.h"
 #include "imageio/Jpeg2000Decoder.h"
+#include "imageio/QtImageEncoder.h"
 #include "imageio/QtImageWrap.h"
 
 #include <QBuffer>
@@ -22,6 +23,10 @@ constexpr qint64 kMaxFileSize = qint64{1} << 30;
 
 std::string writeImageFile(const Image& image, const std::string& path, ExportFormat format,
                            float compression) {
+    // Qt's writers stream into the file: a poster is never held encoded in memory as well.
+    if (writtenByQt(format))
+        return writeFileAtomically(
+            path, [&](QIODevice& file) { return writeWithQt(image, format, compression, file); });
     const EncodedImage encoded = encodeImage(image, format, compression);
     if (!encoded.ok())
         return encoded.error;

@@ -30,23 +30,33 @@ const char* qtFormatName(ExportFormat format) {
 
 } // namespace
 
-EncodedImage encodeWithQt(const Image& image, ExportFormat format, float compression) {
+bool writtenByQt(ExportFormat format) {
+    return qtFormatName(format) != nullptr;
+}
+
+std::string writeWithQt(const Image& image, ExportFormat format, float compression,
+                        QIODevice& device) {
     const char* name = qtFormatName(format);
     if (name == nullptr)
-        return EncodedImage::failure("this format is not written by Qt");
+        return "this format is not written by Qt";
     if (image.isNull())
-        return EncodedImage::failure("the picture is empty");
-
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, name);
+        return "the picture is empty";
+    QImageWriter writer(&device, name);
     if (format == ExportFormat::jpeg)
         writer.setQuality(static_cast<int>(std::lround(std::clamp(compression, 0.0f, 1.0f) * 100)));
     if (format == ExportFormat::tiff)
         writer.setCompression(1); // LZW: lossless, and a quarter of the raw size for a scene
     if (!writer.write(wrapImage(image)))
-        return EncodedImage::failure(writer.errorString().toStdString());
+        return writer.errorString().toStdString();
+    return {};
+}
+
+EncodedImage encodeWithQt(const Image& image, ExportFormat format, float compression) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    if (std::string failure = writeWithQt(image, format, compression, buffer); !failure.empty())
+        return EncodedImage::failure(std::move(failure));
     return {{bytes.begin(), bytes.end()}, {}};
 }
 

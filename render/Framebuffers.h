@@ -6,37 +6,39 @@
 
 namespace orrery::render {
 
-// The canvas the planets are drawn on: premultiplied colour in a texture (read when the
-// picture is composed) and depth in a renderbuffer.
+// Where the planets are drawn and finished. Planets go onto the canvas: premultiplied colour
+// in a texture, with depth and, in the stencil, what each pixel's last colour left (see
+// PictureFinish). The finished picture, straight alpha, lies in a texture of its own beside
+// it, over the same depth and stencil, and is copied from there to wherever it is shown or
+// read back.
 class Canvas {
 public:
     // Makes the canvas width x height (kept when it already is); false and a message
     // when OpenGL cannot.
     bool ensureSize(int width, int height, std::string* error);
 
-    GLuint framebuffer() const { return framebuffer_.id(); }
-    GLuint colorTexture() const { return color_.id(); }
+    GLuint planetsFramebuffer() const { return planetsFramebuffer_.id(); }
+    GLuint planetsTexture() const { return planets_.id(); }
+    GLuint pictureFramebuffer() const { return pictureFramebuffer_.id(); }
 
 private:
-    GlObject framebuffer_{GlObject::Kind::framebuffer};
-    GlObject color_{GlObject::Kind::texture};
-    GlObject depth_{GlObject::Kind::renderbuffer};
+    GlObject planetsFramebuffer_{GlObject::Kind::framebuffer};
+    GlObject pictureFramebuffer_{GlObject::Kind::framebuffer};
+    GlObject planets_{GlObject::Kind::texture};
+    GlObject picture_{GlObject::Kind::texture};
+    GlObject depthStencil_{GlObject::Kind::renderbuffer};
     int width_ = 0;
     int height_ = 0;
 };
 
-// A plain RGBA framebuffer to read a finished picture back from.
-class PictureFramebuffer {
-public:
-    bool ensureSize(int width, int height, std::string* error);
-    GLuint framebuffer() const { return framebuffer_.id(); }
+// "a picture of W x H pixels", for messages.
+std::string pictureText(int width, int height);
 
-private:
-    GlObject framebuffer_{GlObject::Kind::framebuffer};
-    GlObject color_{GlObject::Kind::renderbuffer};
-    int width_ = 0;
-    int height_ = 0;
-};
+// Whether a picture of that size has any pixel; a message saying it is empty when not.
+bool pictureNotEmpty(int width, int height, std::string* error);
+
+// The largest side of a canvas this OpenGL can draw.
+int largestCanvasSide();
 
 // Whether OpenGL can hold a picture of that size at all; a message naming the limit
 // when it cannot.

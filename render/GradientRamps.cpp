@@ -28,4 +28,18 @@ int gradientRampRow(std::int64_t style) {
     return style >= 0 && style < kGradientRampCount ? static_cast<int>(style) : -1;
 }
 
+GlObject makeGradientRampTexture(const std::vector<std::uint8_t>& pixels) {
+    GlObject texture(GlObject::Kind::texture);
+    texture.create();
+    glBindTexture(GL_TEXTURE_2D, texture.id());
+    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
+    glTexImage2D(GL_TEXTURE_2D, 0, GL_SRGB8_ALPHA8, kGradientRampLength, kGradientRampCount, 0,
+                 GL_RGBA, GL_UNSIGNED_BYTE, pixels.data());
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
+    return texture;
+}
+
 } // namespace orrery::render

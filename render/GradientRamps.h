@@ -1,5 +1,7 @@
 #pragma once
 
+#include "render/GlObject.h"
+
 #include <cstdint>
 #include <vector>
 
@@ -16,5 +18,9 @@ std::vector<std::uint8_t> gradientRampPixels();
 
 // The row of a style number, or -1 when the number has no gradient.
 int gradientRampRow(std::int64_t style);
+
+// The ramps as the planet shaders read them (sRGB, filtered linearly); needs a current
+// OpenGL context.
+GlObject makeGradientRampTexture(const std::vector<std::uint8_t>& pixels);
 
 } // namespace orrery::render

@@ -57,12 +57,25 @@ bool showsOnScreen(const PlanetInstance& planet, const ScreenFrame& frame);
 // surface; 0 when none does, infinite when one reaches the plane of the eye.
 double largestSurfaceRadius(const std::vector<PlanetInstance>& instances, const ScreenFrame& frame);
 
+// The pixels a pass draws a planet at, as its vertex shader takes them: a box in pixels from
+// the bottom-left corner of the picture.
+struct DrawnPixels {
+    float left = 0.0f;
+    float bottom = 0.0f;
+    float right = 0.0f;
+    float top = 0.0f;
+};
+
 // Consecutive planets, in drawing order, drawn by one shader and one kind of primitive.
 struct PlanetDraw {
     std::size_t first = 0;
     std::size_t count = 0;
     bool textured = false; // with the texture work, or plain
     PlanetShape shape = PlanetShape::quad;
+    bool alone = false; // nothing else drawn touches its planets' pixels (see PassRole)
+    // Sprites drawn as one rectangle per piece of the picture they are drawn over, rather
+    // than as one point each (see PassPlanet).
+    bool inPieces = false;
 };
 
 // Fewer planets in a row than this, among ones that need the more general shader or shape,

@@ -87,6 +87,8 @@ bool PlanetList::patch(const SceneNode& root, const std::vector<SceneChange>& ch
         comerEntries.push_back(
             {{change.key, node->siblingOrder(), 0}, reachOf(*instance, frame_), kNotDrawn});
     }
+    for (const Entry& comer : comerEntries)
+        changed(comer.reach);
 
     // The changed planets' old instances go, in one pass.
     const auto wasChanged = [&latest](const SceneNode* key) {
@@ -143,24 +145,72 @@ std::optional<PixelBox> PlanetList::takeChangedArea(const std::vector<PlanetDraw
     return std::exchange(changedArea_, std::nullopt);
 }
 
-void PlanetList::planetsIn(const PixelBox& area, const std::vector<PlanetDraw>& draws,
-                           std::vector<PlanetInstance>& instances,
-                           std::vector<PlanetDraw>& areaDraws) const {
-    instances.clear();
-    areaDraws.clear();
+void PlanetList::passOver(const PixelRect& area, const std::vector<PlanetDraw>& draws,
+                          const DepthFrame& frame, const std::vector<bool>& opaqueRamps,
+                          Pass& pass) {
+    const PixelBox box{static_cast<double>(area.x), static_cast<double>(area.y),
+                       static_cast<double>(area.x + area.width),
+                       static_cast<double>(area.y + area.height)};
+    const auto opaque = [&opaqueRamps](const PlanetInstance& planet) {
+        if (planet.color[3] != 1.0f)
+            return false;
+        if (planet.rampRow < 0.0f)
+            return true;
+        const auto row = static_cast<std::size_t>(planet.rampRow);
+        return row < opaqueRamps.size() && opaqueRamps[row];
+    };
+    candidates_.clear();
+    candidateDraws_.clear();
     for (const PlanetDraw& draw : draws) {
         for (std::size_t i = draw.first; i < draw.first + draw.count; ++i) {
-            if (!overlap(entries_[i].reach, area))
+            if (!overlap(entries_[i].reach, box))
                 continue;
-            const bool sameDraw = !areaDraws.empty() && areaDraws.back().shape == draw.shape &&
-                                  areaDraws.back().textured == draw.textured;
-            if (sameDraw)
-                ++areaDraws.back().count;
-            else
-                areaDraws.push_back({instances.size(), 1, draw.textured, draw.shape});
-            instances.push_back(instances_[i]);
+            candidates_.push_back({&instances_[i], entries_[i].reach, opaque(instances_[i])});
+            candidateDraws_.push_back(&draw);
         }
     }
+    assignPassRoles(candidates_, frame, area, plan_);
+
+    pass.instances.clear();
+    pass.pixels.clear();
+    pass.draws.clear();
+    pass.soft = plan_.soft;
+    // Each piece of a planet is one instance of it, drawn over that piece.
+    const auto append = [&](std::size_t candidate) {
+        const PassPlanet& planet = plan_.planets[candidate];
+        const PlanetDraw& from = *candidateDraws_[candidate];
+        const PlanetDraw kind{pass.instances.size(),
+                              planet.pieceCount,
+                              from.textured,
+                              from.shape,
+                              planet.role == PassRole::alone,
+                              from.shape != PlanetShape::quad && planet.pieceCount > 1};
+        PlanetDraw* last = pass.draws.empty() ? nullptr : &pass.draws.back();
+        if (last != nullptr && last->shape == kind.shape && last->textured == kind.textured &&
+            last->alone == kind.alone && last->inPieces == kind.inPieces)
+            last->count += kind.count;
+        else
+            pass.draws.push_back(kind);
+        for (std::size_t piece = planet.firstPiece; piece < planet.firstPiece + planet.pieceCount;
+             ++piece) {
+            const PixelRect& at = plan_.pieces[piece];
+            pass.instances.push_back(*candidates_[candidate].planet);
+            pass.pixels.push_back({static_cast<float>(at.x), static_cast<float>(at.y),
+                                   static_cast<float>(at.x + at.width),
+                                   static_cast<float>(at.y + at.height)});
+        }
+    };
+    // Planets alone in the area may go in any order: one draw for each way of drawing.
+    for (const PlanetShape shape :
+         {PlanetShape::tinySprite, PlanetShape::sprite, PlanetShape::quad})
+        for (const bool textured : {false, true})
+            for (std::size_t i = 0; i < candidates_.size(); ++i)
+                if (plan_.planets[i].role == PassRole::alone &&
+                    candidateDraws_[i]->shape == shape && candidateDraws_[i]->textured == textured)
+                    append(i);
+    for (std::size_t i = 0; i < candidates_.size(); ++i)
+        if (plan_.planets[i].role == PassRole::shared)
+            append(i);
 }
 
 } // namespace orrery::render

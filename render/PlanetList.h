@@ -2,6 +2,7 @@
 
 #include "core/scene/SceneChangeLog.h"
 #include "core/scene/SceneNode.h"
+#include "render/PlanetCulling.h"
 #include "render/PlanetDraws.h"
 #include "render/PlanetInstances.h"
 
@@ -28,17 +29,27 @@ public:
                const SurfaceLayerLookup& layerOf);
 
     const std::vector<PlanetInstance>& instances() const { return instances_; }
+    // Whether planets changed since the last takeChangedArea.
+    bool hasChanges() const { return changedArea_.has_value(); }
 
     // Takes note that the planets are drawn by `draws` (as groupPlanetDraws splits them) and
     // returns where the picture differs from the one drawn before: where planets went, came
     // or are drawn another way; everything after a rebuild; none when nothing changed.
     std::optional<PixelBox> takeChangedArea(const std::vector<PlanetDraw>& draws);
 
-    // The planets of `draws` that may touch `area`, in order, and the draws for them,
-    // replacing the contents of both.
-    void planetsIn(const PixelBox& area, const std::vector<PlanetDraw>& draws,
-                   std::vector<PlanetInstance>& instances,
-                   std::vector<PlanetDraw>& areaDraws) const;
+    // What a pass that draws `area` draws, replacing the contents of `pass`: the planets
+    // that may touch the area, each the way `draws` draws it and at the pixels it must be
+    // drawn at, without those that cannot show (see assignPassRoles); those alone in the area
+    // first, then the others in order. `opaqueRamps` tells which gradient ramps are opaque.
+    struct Pass {
+        std::vector<PlanetInstance> instances;
+        std::vector<DrawnPixels> pixels; // beside instances
+        std::vector<PlanetDraw> draws;
+        // Where the planets may leave a colour that lets what lies behind show; none: nowhere.
+        std::optional<PixelRect> soft;
+    };
+    void passOver(const PixelRect& area, const std::vector<PlanetDraw>& draws,
+                  const DepthFrame& frame, const std::vector<bool>& opaqueRamps, Pass& pass);
 
 private:
     struct Entry {
@@ -53,6 +64,10 @@ private:
     Vec3 eye_;
     ScreenFrame frame_;
     std::optional<PixelBox> changedArea_;
+    // A pass's candidates, the draws they come from and their roles, kept for their capacity.
+    std::vector<PassCandidate> candidates_;
+    std::vector<const PlanetDraw*> candidateDraws_;
+    PassPlan plan_;
 };
 
 } // namespace orrery::render

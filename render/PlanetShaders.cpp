@@ -6,21 +6,24 @@
 namespace orrery::render {
 
 // Each planet covers the square where its silhouette lies, widened by kEdgeMargin so that
-// the soft outer edge is drawn too. As a point sprite (SPRITE), the square holds the part of
-// the silhouette's bounding box on screen: OpenGL drops a point whose centre lies off
-// screen, so the square's centre is kept on screen. As a quad, the square stands around the circle
-// where the eye's tangent cone touches the sphere: it holds the whole silhouette, and every
-// point of the circle lies on the sphere, so no part of it is nearer than the sphere
-// itself. (An octagon would spare a few pixels, but software rasterisers pay more for the
-// extra triangles than they save.)
+// the soft outer edge is drawn too, within the box of pixels the pass must draw it at
+// (the rest of it is hidden, or off the picture). As a point sprite (SPRITE), the square
+// holds the part of the silhouette's bounding box within that box: OpenGL drops a point whose
+// centre lies off screen, so the square's centre is kept on screen. As a quad, the square
+// stands around the circle where the eye's tangent cone touches the sphere, and is cut to the
+// box: it holds the whole silhouette, and every point of the circle lies on the sphere, so no
+// part of it is nearer than the sphere itself. (An octagon would spare a few pixels, but
+// software rasterisers pay more for the extra triangles than they save.)
 constexpr const char* kPlanetVertexShader = R"(
 layout(location = 0) in vec4 centerRadius;
 layout(location = 1) in vec4 diffuseColor;
 layout(location = 2) in vec2 layers;
+layout(location = 3) in vec4 drawnPixels; // the box of pixels to draw: left, bottom, right, top
 
 uniform mat4 projection;
 uniform float pixelAngle; // radians per pixel in the middle of the view
 uniform vec4 viewport;    // x, y, width, height in pixels
+uniform vec4 tile;        // the part of the picture drawn: x, y, width, height in its pixels
 uniform vec2 ndcToRay;
 
 flat out vec3 vCenter;
@@ -60,12 +63,20 @@ void main() {
     vec2 box = boxHigh - boxLow;
     float texelsPerPixel = surfaceWidth / (3.14159265 * max(max(box.x, box.y), 1e-6));
     vLevel = clamp(round(log2(max(texelsPerPixel, 1.0))), 0.0, log2(max(surfaceWidth, 1.0)));
-    vec2 low = max(boxLow, vec2(0.0)) - EDGE_MARGIN;
-    vec2 high = min(boxHigh, viewport.zw) + EDGE_MARGIN;
-    vec2 middle = clamp((low + high) * 0.5, vec2(0.5), viewport.zw - 0.5);
+#ifdef PIECES
+    // One rectangle, the piece of the picture to draw: it holds no pixel the planet's square
+    // would not, but for ones beside the silhouette, which the fragment shader leaves alone.
+    vec2 corner = vec2((gl_VertexID & 1) != 0 ? drawnPixels.z : drawnPixels.x,
+                       (gl_VertexID & 2) != 0 ? drawnPixels.w : drawnPixels.y);
+    gl_Position = vec4((corner - tile.xy) / tile.zw * 2.0 - 1.0, 0.0, 1.0);
+#else
+    vec2 low = max(boxLow, drawnPixels.xy) - EDGE_MARGIN;
+    vec2 high = min(boxHigh, drawnPixels.zw) + EDGE_MARGIN;
+    vec2 middle = clamp((low + high) * 0.5, tile.xy + 0.5, tile.xy + tile.zw - 0.5);
     vec2 reach = max(middle - low, high - middle);
     gl_PointSize = 2.0 * max(reach.x, reach.y);
-    gl_Position = vec4(middle / viewport.zw * 2.0 - 1.0, 0.0, 1.0);
+    gl_Position = vec4((middle - tile.xy) / tile.zw * 2.0 - 1.0, 0.0, 1.0);
+#endif
 #else
     float distance2 = dot(center, center);
     if (radius <= 0.0 || distance2 <= radius * radius) {
@@ -84,15 +95,25 @@ void main() {
     vec2 corner = vec2((gl_VertexID & 1) != 0 ? 1.0 : -1.0, (gl_VertexID & 2) != 0 ? 1.0 : -1.0);
     vec3 position = axis * along + (right * corner.x + up * corner.y) * spread;
     gl_Position = projection * vec4(position, 1.0);
+    // Cut to the box of pixels to draw.
+    vec4 box = drawnPixels / viewport.zwzw * 2.0 - 1.0;
+    gl_ClipDistance[0] = gl_Position.x - box.x * gl_Position.w;
+    gl_ClipDistance[1] = gl_Position.y - box.y * gl_Position.w;
+    gl_ClipDistance[2] = box.z * gl_Position.w - gl_Position.x;
+    gl_ClipDistance[3] = box.w * gl_Position.w - gl_Position.y;
+    // From the picture's clip space to the tile's.
+    gl_Position.xy = gl_Position.xy * (viewport.zw / tile.zw) +
+                     gl_Position.w * ((viewport.zw - 2.0 * tile.xy) / tile.zw - 1.0);
 #endif
 }
 )";
 
-// Ray casting per pixel: exact silhouette, depth and normal of a true sphere. The edge is
-// smoothed by the share of the pixel the silhouette covers; planets arrive back to front,
-// so a soft edge blends over whatever lies behind it. Built twice: with TEXTURED for planets
-// with a gradient or a surface, and without for plain coloured ones, because a software
-// renderer runs both sides of a branch and would pay for the textures on every pixel.
+// Ray casting per pixel, in the picture's pixels (gl_FragCoord less viewport.xy, which moves a
+// tile of the picture to its place): exact silhouette, depth and normal of a true sphere. The edge
+// is smoothed by the share of the pixel the silhouette covers; planets arrive back to front, so a
+// soft edge blends over whatever lies behind it. Built twice: with TEXTURED for planets with a
+// gradient or a surface, and without for plain coloured ones, because a software renderer runs both
+// sides of a branch and would pay for the textures on every pixel.
 constexpr const char* kPlanetFragmentShader = R"(
 const float kPi = 3.14159265358979;
 
@@ -206,6 +227,11 @@ void main() {
     vec3 colour = diffuse.rgb * lightColor * lambert + emission;
     float alpha = diffuse.a * coverage;
     fragColor = vec4(linearToSrgb(clamp(colour, 0.0, 1.0)) * alpha, alpha);
+#ifdef MARK_SOFT
+    // What this colour leaves in the canvas's stencil: 1 where what lies behind still shows
+    // (so the finished pixel needs the division by alpha), 2 where it covers it whole.
+    gl_FragStencilRefARB = alpha < 1.0 ? 1 : 2;
+#endif
 }
 )";
 
@@ -260,8 +286,9 @@ const char* shapeDefines(PlanetShape shape) {
 
 } // namespace
 
-std::string planetVertexShader(PlanetShape shape) {
-    return std::string("#version 330 core\n") + shapeDefines(shape) + "#define EDGE_MARGIN " +
+std::string planetVertexShader(PlanetShape shape, bool inPieces) {
+    return std::string("#version 330 core\n") + shapeDefines(shape) +
+           (inPieces ? "#define PIECES\n" : "") + "#define EDGE_MARGIN " +
            std::to_string(kEdgeMargin) + "\n" + kPlanetVertexShader;
 }
 
@@ -270,9 +297,11 @@ std::string composeFragmentShader(bool overBackdrop) {
            kComposeFragmentShader;
 }
 
-std::string planetFragmentShader(PlanetShape shape, bool textured) {
-    return std::string("#version 330 core\n") + shapeDefines(shape) +
-           (textured ? "#define TEXTURED\n" : "") + "#define RAMP_LENGTH " +
+std::string planetFragmentShader(PlanetShape shape, bool textured, bool marksSoft) {
+    return std::string("#version 330 core\n") +
+           (marksSoft ? "#extension GL_ARB_shader_stencil_export : require\n#define MARK_SOFT\n"
+                      : "") +
+           shapeDefines(shape) + (textured ? "#define TEXTURED\n" : "") + "#define RAMP_LENGTH " +
            std::to_string(kGradientRampLength) + "\n" + kPlanetFragmentShader;
 }
 

@@ -19,11 +19,13 @@ std::array<float, 16> toFloats(const std::array<double, 16>& matrix) {
 
 PlanetUniforms planetUniforms(const CameraProjection& camera,
                               const std::optional<SceneLight>& light, int width, int height,
-                              int surfaceWidth) {
+                              const PixelRect& tile, int surfaceWidth) {
     PlanetUniforms uniforms;
     uniforms.projection = toFloats(camera.matrix());
     uniforms.pixelAngle = static_cast<float>(2.0 * camera.ndcToRayY() / height);
     uniforms.viewport = {static_cast<float>(width), static_cast<float>(height)};
+    uniforms.tile = {static_cast<float>(tile.x), static_cast<float>(tile.y),
+                     static_cast<float>(tile.width), static_cast<float>(tile.height)};
     uniforms.ndcToRay = {static_cast<float>(camera.ndcToRayX()),
                          static_cast<float>(camera.ndcToRayY())};
     const Vec3 lightOffset = light ? light->position - camera.eye() : Vec3{};
@@ -51,6 +53,26 @@ std::optional<PixelRect> pixelsOf(const PixelBox& area, int width, int height) {
     if (2.0 * rect.width * rect.height > static_cast<double>(width) * height)
         return std::nullopt;
     return rect;
+}
+
+std::optional<PixelRect> unite(const std::optional<PixelRect>& a,
+                               const std::optional<PixelRect>& b) {
+    if (!a || !b)
+        return a ? a : b;
+    const int left = std::min(a->x, b->x);
+    const int bottom = std::min(a->y, b->y);
+    return PixelRect{left, bottom, std::max(a->x + a->width, b->x + b->width) - left,
+                     std::max(a->y + a->height, b->y + b->height) - bottom};
+}
+
+std::optional<PixelRect> overlapOf(const PixelRect& a, const PixelRect& b) {
+    const int left = std::max(a.x, b.x);
+    const int bottom = std::max(a.y, b.y);
+    const int right = std::min(a.x + a.width, b.x + b.width);
+    const int top = std::min(a.y + a.height, b.y + b.height);
+    if (right <= left || top <= bottom)
+        return std::nullopt;
+    return PixelRect{left, bottom, right - left, top - bottom};
 }
 
 } // namespace orrery::render

@@ -4,6 +4,8 @@
 #include "render/Framebuffers.h"
 #include "render/GlObject.h"
 #include "render/GradientRamps.h"
+#include "render/PictureFinish.h"
+#include "render/PictureTiles.h"
 #include "render/PlanetDraws.h"
 #include "render/PlanetInstances.h"
 #include "render/PlanetList.h"
@@ -24,9 +26,10 @@ namespace {
 
 constexpr int kRampUnit = 0;
 constexpr int kSurfaceUnit = 1;
-constexpr int kCanvasUnit = 0;
-constexpr int kBackdropUnit = 1;
 constexpr int kNeededGlVersion = 33;
+// Pictures larger than this a side are drawn in tiles: what they need beyond the picture
+// itself stays the same, whatever their size.
+constexpr int kPictureTileSide = 2048;
 
 const char* glText(GLenum name) {
     const auto* text = reinterpret_cast<const char*>(glGetString(name));
@@ -40,6 +43,7 @@ struct PlanetProgram {
     GLint projection = -1;
     GLint pixelAngle = -1;
     GLint viewport = -1;
+    GLint tile = -1;
     GLint ndcToRay = -1;
     GLint lightPosition = -1;
     GLint lightColor = -1;
@@ -48,39 +52,58 @@ struct PlanetProgram {
     GLint surfaceWidth = -1;
 };
 
-struct ComposeProgram {
-    GlObject program{GlObject::Kind::program};
-    GLint canvas = -1;
-    GLint backdrop = -1;
-};
-
 float largestPointSize() {
     GLfloat range[2] = {1.0f, 1.0f};
     glGetFloatv(GL_POINT_SIZE_RANGE, range);
     return range[1];
 }
 
-GlObject makeGradientRampTexture() {
-    GlObject texture(GlObject::Kind::texture);
-    texture.create();
-    const std::vector<std::uint8_t> pixels = gradientRampPixels();
-    glBindTexture(GL_TEXTURE_2D, texture.id());
-    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
-    glTexImage2D(GL_TEXTURE_2D, 0, GL_SRGB8_ALPHA8, kGradientRampLength, kGradientRampCount, 0,
-                 GL_RGBA, GL_UNSIGNED_BYTE, pixels.data());
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
-    return texture;
+// Whether every sample of each ramp is opaque.
+std::vector<bool> opaqueRows(const std::vector<std::uint8_t>& pixels) {
+    std::vector<bool> opaque(kGradientRampCount, true);
+    for (std::size_t i = 3; i < pixels.size(); i += 4)
+        if (pixels[i] != 255)
+            opaque[i / 4 / kGradientRampLength] = false;
+    return opaque;
 }
+
+// A buffer of per-planet data that grows as needed, with room to spare so that adding
+// planets one by one does not reallocate each time.
+class GrowingBuffer {
+public:
+    void create() { buffer_.create(); }
+    GLuint id() const { return buffer_.id(); }
+
+    template <typename Item> void upload(const std::vector<Item>& items) {
+        const std::size_t bytes = items.size() * sizeof(Item);
+        glBindBuffer(GL_ARRAY_BUFFER, buffer_.id());
+        if (bytes > capacity_) {
+            capacity_ = bytes + bytes / 2;
+            glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(capacity_), nullptr,
+                         GL_DYNAMIC_DRAW);
+        }
+        if (bytes > 0)
+            glBufferSubData(GL_ARRAY_BUFFER, 0, static_cast<GLsizeiptr>(bytes), items.data());
+    }
+
+private:
+    GlObject buffer_{GlObject::Kind::buffer};
+    std::size_t capacity_ = 0;
+};
+
+// Which part of the canvas a frame drew again: nothing, a part, or all of it.
+struct DrawnArea {
+    bool any = false;
+    std::optional<PixelRect> part; // none: all of it
+};
 
 } // namespace
 
 // Everything the renderer keeps between frames. Planet data is brought up to date only when
 // the scene (or the eye) changed: patched from the scene's list of changed planets where it
 // can be, else rebuilt. The canvas keeps the planets as last drawn and is drawn again only
-// where the planets changed, or whole when the view changed.
+// where the planets changed, or whole when the view changed; its finished picture is
+// finished again where the planets were drawn, and whole when the backdrop changed.
 class RendererState {
 public:
     explicit RendererState(SurfaceSource source) : surfaces(std::move(source)) {}
@@ -89,53 +112,65 @@ public:
     bool render(const Scene& scene, const CameraProjection& camera, GLuint target, int width,
                 int height, bool overBackdrop, std::string* error);
     std::optional<Image> renderImage(const Scene& scene, const CameraProjection& camera, int width,
-                                     int height, std::string* error);
+                                     int height, std::string* error, const PictureTiling& tiling);
     std::string description() const;
     void setBackdrop(const Image& backdrop);
-    bool hasBackdrop() const { return static_cast<bool>(backdrop); }
+    bool hasBackdrop() const { return finishing.hasBackdrop(); }
 
 private:
+    bool drawFrame(const Scene& scene, const CameraProjection& camera, int width, int height,
+                   const PixelRect& tile, bool overBackdrop, std::string* error);
+    bool drewWithoutError(std::string* error);
     void refreshPlanets(const Scene& scene, const CameraProjection& camera, int width, int height);
     bool patchPlanets(const Scene& scene, const ScreenFrame& frame);
-    void upload(const std::vector<PlanetInstance>& planets);
-    void drawPlanets(const CameraProjection& camera, int width, int height);
+    void upload(const PlanetList::Pass& pass);
+    DrawnArea drawPlanets(const CameraProjection& camera, int width, int height,
+                          const PixelRect& tile);
     void drawInstances(const std::vector<PlanetDraw>& planetDraws, const PlanetUniforms& uniforms);
     void useProgram(const PlanetProgram& shader, const PlanetUniforms& uniforms);
     void pointAttributesAt(std::size_t first);
-    void compose(GLuint target, int width, int height, bool overBackdrop);
 
     // Plain tiny sprites are drawn as plain sprites: without textures the two are one.
-    PlanetProgram& program(PlanetShape shape, bool textured) {
-        if (!textured && shape == PlanetShape::tinySprite)
-            shape = PlanetShape::sprite;
-        return programs[static_cast<std::size_t>(shape)][textured ? 1 : 0];
+    PlanetProgram& program(const PlanetDraw& draw) {
+        const PlanetShape shape = !draw.textured && draw.shape == PlanetShape::tinySprite
+                                      ? PlanetShape::sprite
+                                      : draw.shape;
+        return programs[static_cast<std::size_t>(shape)][draw.textured ? 1 : 0]
+                       [draw.inPieces ? 1 : 0];
     }
 
-    std::array<std::array<PlanetProgram, 2>, 3> programs; // [shape][textured]
+    // [shape][textured][sprites in pieces]
+    std::array<std::array<std::array<PlanetProgram, 2>, 2>, 3> programs;
     float pointSizeLimit = 1.0f;
-    std::array<ComposeProgram, 2> composing; // [over the backdrop]
+    bool marksSoft = false; // the planet shaders leave soft pixels marked in the stencil
+    PictureFinish finishing;
     // Quads are instances of four vertices; sprites are plain vertices, one per planet, as a
     // software renderer runs its vertex stage once per instance rather than for eight
     // vertices at a time.
     GlObject quadVertices{GlObject::Kind::vertexArray};
     GlObject spriteVertices{GlObject::Kind::vertexArray};
-    GlObject composeVertices{GlObject::Kind::vertexArray};
-    GlObject instanceBuffer{GlObject::Kind::buffer};
-    std::size_t instanceBufferBytes = 0;
+    GrowingBuffer instanceBuffer;
+    GrowingBuffer pixelsBuffer; // the pixels each planet is drawn at
     GlObject gradientRamps{GlObject::Kind::texture};
-    GlObject backdrop{GlObject::Kind::texture}; // none without a backdrop
+    std::vector<bool> opaqueRamps;
     SurfaceTextures surfaces;
     Canvas canvas;
-    PictureFramebuffer picture;
 
     PlanetList planets;
     std::vector<PlanetDraw> draws;
     std::optional<PixelBox> changedArea;
     // What the canvas shows was drawn with these; none when it shows nothing to keep.
     std::optional<PlanetUniforms> canvasUniforms;
-    // The planets and draws of a part of the canvas drawn again.
-    std::vector<PlanetInstance> areaInstances;
-    std::vector<PlanetDraw> areaDraws;
+    // Whether the canvas's picture is finished over the backdrop; none when it is not finished.
+    std::optional<bool> finishedOverBackdrop;
+    // Where the canvas may hold soft colours; none: nowhere.
+    std::optional<PixelRect> canvasSoft;
+    // The planets and draws of a pass over the whole canvas, kept while the planets are,
+    // and of a part of it drawn again.
+    PlanetList::Pass wholePass;
+    std::optional<PixelRect> wholePassTile; // the tile it is for; none when not kept
+    bool bufferHoldsWholePass = false;
+    PlanetList::Pass partPass;
     std::optional<SceneLight> light;
     std::uint64_t sceneId = 0;
     std::uint64_t sceneRevision = 0;
@@ -150,14 +185,17 @@ bool RendererState::build(std::string* error) {
                      glText(GL_VERSION);
         return false;
     }
+    marksSoft = epoxy_has_gl_extension("GL_ARB_shader_stencil_export");
     for (const PlanetShape shape :
          {PlanetShape::tinySprite, PlanetShape::sprite, PlanetShape::quad}) {
-        for (const bool textured : {false, true}) {
-            if (!textured && shape == PlanetShape::tinySprite)
+        for (const auto& [textured, inPieces] :
+             {std::pair{false, false}, {true, false}, {false, true}, {true, true}}) {
+            if ((!textured && shape == PlanetShape::tinySprite) ||
+                (inPieces && shape == PlanetShape::quad))
                 continue;
-            PlanetProgram& shader = program(shape, textured);
-            auto built = buildProgram(planetVertexShader(shape),
-                                      planetFragmentShader(shape, textured), error);
+            PlanetProgram& shader = program({0, 0, textured, shape, false, inPieces});
+            auto built = buildProgram(planetVertexShader(shape, inPieces),
+                                      planetFragmentShader(shape, textured, marksSoft), error);
             if (!built)
                 return false;
             shader.program = std::move(*built);
@@ -165,6 +203,7 @@ bool RendererState::build(std::string* error) {
             shader.projection = glGetUniformLocation(p, "projection");
             shader.pixelAngle = glGetUniformLocation(p, "pixelAngle");
             shader.viewport = glGetUniformLocation(p, "viewport");
+            shader.tile = glGetUniformLocation(p, "tile");
             shader.ndcToRay = glGetUniformLocation(p, "ndcToRay");
             shader.lightPosition = glGetUniformLocation(p, "lightPosition");
             shader.lightColor = glGetUniformLocation(p, "lightColor");
@@ -174,30 +213,25 @@ bool RendererState::build(std::string* error) {
         }
     }
     pointSizeLimit = largestPointSize();
-    for (const bool overBackdrop : {false, true}) {
-        auto built = buildProgram(kComposeVertexShader, composeFragmentShader(overBackdrop), error);
-        if (!built)
-            return false;
-        ComposeProgram& shader = composing[overBackdrop ? 1 : 0];
-        shader.program = std::move(*built);
-        shader.canvas = glGetUniformLocation(shader.program.id(), "canvas");
-        shader.backdrop = glGetUniformLocation(shader.program.id(), "backdrop");
-    }
+    if (!finishing.build(marksSoft, error))
+        return false;
 
     instanceBuffer.create();
+    pixelsBuffer.create();
     for (GlObject* vertices : {&quadVertices, &spriteVertices}) {
         vertices->create();
         glBindVertexArray(vertices->id());
-        for (GLuint index = 0; index < 3; ++index) {
+        for (GLuint index = 0; index < 4; ++index) {
             glEnableVertexAttribArray(index);
             glVertexAttribDivisor(index, vertices == &quadVertices ? 1 : 0);
         }
         pointAttributesAt(0);
     }
     glBindVertexArray(0);
-    composeVertices.create();
 
-    gradientRamps = makeGradientRampTexture();
+    const std::vector<std::uint8_t> rampPixels = gradientRampPixels();
+    gradientRamps = makeGradientRampTexture(rampPixels);
+    opaqueRamps = opaqueRows(rampPixels);
     return true;
 }
 
@@ -219,8 +253,11 @@ void RendererState::refreshPlanets(const Scene& scene, const CameraProjection& c
         surfaces.endScene(largestSurfaceRadius(planets.instances(), frame));
     }
     light = findLight(scene.rootNode());
-    groupPlanetDraws(planets.instances(), frame, draws);
-    changedArea = planets.takeChangedArea(draws);
+    if (planets.hasChanges()) {
+        groupPlanetDraws(planets.instances(), frame, draws);
+        changedArea = planets.takeChangedArea(draws);
+        wholePassTile.reset();
+    }
     sceneId = scene.id();
     sceneRevision = scene.revision();
     sceneEye = eye;
@@ -234,96 +271,128 @@ bool RendererState::patchPlanets(const Scene& scene, const ScreenFrame& frame) {
     const auto changes = scene.changesSince(sceneRevision);
     if (!changes)
         return false;
-    return planets.patch(scene.rootNode(), *changes, [this](const std::string& name) {
-        return surfaces.heldLayer(name);
-    }) && surfaces.keepsDetailFor(largestSurfaceRadius(planets.instances(), frame));
+    return planets.patch(scene.rootNode(), *changes,
+                         [this](const std::string& name) { return surfaces.heldLayer(name); }) &&
+           (!planets.hasChanges() ||
+            surfaces.keepsDetailFor(largestSurfaceRadius(planets.instances(), frame)));
 }
 
-void RendererState::upload(const std::vector<PlanetInstance>& planetsToDraw) {
-    const std::size_t bytes = planetsToDraw.size() * sizeof(PlanetInstance);
-    glBindBuffer(GL_ARRAY_BUFFER, instanceBuffer.id());
-    if (bytes > instanceBufferBytes) {
-        // Room to grow, so that adding planets one by one does not reallocate each time.
-        instanceBufferBytes = bytes + bytes / 2;
-        glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(instanceBufferBytes), nullptr,
-                     GL_DYNAMIC_DRAW);
-    }
-    if (bytes > 0)
-        glBufferSubData(GL_ARRAY_BUFFER, 0, static_cast<GLsizeiptr>(bytes), planetsToDraw.data());
+void RendererState::upload(const PlanetList::Pass& pass) {
+    instanceBuffer.upload(pass.instances);
+    pixelsBuffer.upload(pass.pixels);
 }
 
-void RendererState::drawPlanets(const CameraProjection& camera, int width, int height) {
+DrawnArea RendererState::drawPlanets(const CameraProjection& camera, int width, int height,
+                                     const PixelRect& tile) {
     const PlanetUniforms uniforms =
-        planetUniforms(camera, light, width, height, surfaces.layerWidth());
+        planetUniforms(camera, light, width, height, tile, surfaces.layerWidth());
     // Drawn with other values, every pixel may differ; with the same, only where planets
     // changed.
     std::optional<PixelRect> part;
     if (canvasUniforms == uniforms) {
         if (!changedArea)
-            return;
+            return {};
         part = pixelsOf(*changedArea, width, height);
+        if (part)
+            part = overlapOf(*part, tile).value_or(PixelRect{tile.x, tile.y, 0, 0});
     }
     changedArea.reset();
     canvasUniforms = uniforms;
 
-    glBindFramebuffer(GL_FRAMEBUFFER, canvas.framebuffer());
-    glViewport(0, 0, width, height);
+    glBindFramebuffer(GL_FRAMEBUFFER, canvas.planetsFramebuffer());
+    glViewport(0, 0, tile.width, tile.height);
     glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     glDepthMask(GL_TRUE);
+    glStencilMask(0xFF);
     glClearColor(0.0f, 0.0f, 0.0f, 0.0f);
     glClearDepth(1.0);
+    glClearStencil(0);
+    const std::array<double, 16> projection = camera.matrix();
+    const DepthFrame depthFrame{sceneFrame, projection[10], projection[14]};
     if (part) {
         glEnable(GL_SCISSOR_TEST);
-        glScissor(part->x, part->y, part->width, part->height);
-        const PixelBox area{static_cast<double>(part->x), static_cast<double>(part->y),
-                            static_cast<double>(part->x + part->width),
-                            static_cast<double>(part->y + part->height)};
-        planets.planetsIn(area, draws, areaInstances, areaDraws);
+        glScissor(part->x - tile.x, part->y - tile.y, part->width, part->height);
+        planets.passOver(*part, draws, depthFrame, opaqueRamps, partPass);
+        upload(partPass);
+        bufferHoldsWholePass = false;
+        canvasSoft = unite(canvasSoft, partPass.soft);
     } else {
         glDisable(GL_SCISSOR_TEST);
+        if (wholePassTile != tile)
+            planets.passOver(tile, draws, depthFrame, opaqueRamps, wholePass);
+        if (wholePassTile != tile || !bufferHoldsWholePass)
+            upload(wholePass);
+        wholePassTile = tile;
+        bufferHoldsWholePass = true;
+        canvasSoft = wholePass.soft;
     }
-    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
-    upload(part ? areaInstances : planets.instances());
-    drawInstances(part ? areaDraws : draws, uniforms);
+    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT | GL_STENCIL_BUFFER_BIT);
+    drawInstances(part ? partPass.draws : wholePass.draws, uniforms);
     glDisable(GL_SCISSOR_TEST);
+    return {true, part};
 }
 
 void RendererState::drawInstances(const std::vector<PlanetDraw>& planetDraws,
                                   const PlanetUniforms& uniforms) {
     if (planetDraws.empty())
         return;
-    glEnable(GL_DEPTH_TEST);
     glDepthFunc(GL_LESS);
-    glEnable(GL_BLEND);
     glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA); // the canvas holds premultiplied colour
     glDisable(GL_CULL_FACE);
     glEnable(GL_PROGRAM_POINT_SIZE);
+    if (marksSoft) {
+        // Each colour that passes the depth test leaves the shader's mark.
+        glEnable(GL_STENCIL_TEST);
+        glStencilFunc(GL_ALWAYS, 0, 0xFF);
+        glStencilOp(GL_KEEP, GL_KEEP, GL_REPLACE);
+    }
 
     glActiveTexture(GL_TEXTURE0 + kRampUnit);
     glBindTexture(GL_TEXTURE_2D, gradientRamps.id());
     glActiveTexture(GL_TEXTURE0 + kSurfaceUnit);
     glBindTexture(GL_TEXTURE_2D_ARRAY, surfaces.texture());
     for (const PlanetDraw& draw : planetDraws) {
-        useProgram(program(draw.shape, draw.textured), uniforms);
+        // A planet alone on the cleared canvas needs neither: every colour of it passes, and
+        // blending over nothing leaves the colour itself.
+        if (draw.alone) {
+            glDisable(GL_DEPTH_TEST);
+            glDisable(GL_BLEND);
+        } else {
+            glEnable(GL_DEPTH_TEST);
+            glEnable(GL_BLEND);
+        }
+        useProgram(program(draw), uniforms);
         const auto count = static_cast<GLsizei>(draw.count);
-        if (draw.shape != PlanetShape::quad) {
+        if (draw.shape != PlanetShape::quad && !draw.inPieces) {
             glBindVertexArray(spriteVertices.id());
             glDrawArrays(GL_POINTS, static_cast<GLint>(draw.first), count);
-        } else {
-            glBindVertexArray(quadVertices.id());
-            pointAttributesAt(draw.first);
-            glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, count);
+            continue;
         }
+        // Quads are cut to their piece of the picture; sprites in pieces are those pieces.
+        const bool cut = draw.shape == PlanetShape::quad;
+        glBindVertexArray(quadVertices.id());
+        pointAttributesAt(draw.first);
+        for (GLenum plane = 0; plane < 4 && cut; ++plane)
+            glEnable(GL_CLIP_DISTANCE0 + plane);
+        glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, count);
+        for (GLenum plane = 0; plane < 4 && cut; ++plane)
+            glDisable(GL_CLIP_DISTANCE0 + plane);
     }
     glBindVertexArray(0);
     glActiveTexture(GL_TEXTURE0);
+    glDisable(GL_STENCIL_TEST);
+    glDisable(GL_DEPTH_TEST);
+    glDisable(GL_BLEND);
 }
 
 void RendererState::useProgram(const PlanetProgram& shader, const PlanetUniforms& uniforms) {
     glUseProgram(shader.program.id());
     glUniformMatrix4fv(shader.projection, 1, GL_FALSE, uniforms.projection.data());
     glUniform1f(shader.pixelAngle, uniforms.pixelAngle);
-    glUniform4f(shader.viewport, 0.0f, 0.0f, uniforms.viewport[0], uniforms.viewport[1]);
+    // A pixel of the tile lies at gl_FragCoord less viewport.xy in the picture.
+    glUniform4f(shader.viewport, -uniforms.tile[0], -uniforms.tile[1], uniforms.viewport[0],
+                uniforms.viewport[1]);
+    glUniform4fv(shader.tile, 1, uniforms.tile.data());
     glUniform2f(shader.ndcToRay, uniforms.ndcToRay[0], uniforms.ndcToRay[1]);
     glUniform3fv(shader.lightPosition, 1, uniforms.lightPosition.data());
     glUniform3fv(shader.lightColor, 1, uniforms.lightColor.data());
@@ -335,93 +404,119 @@ void RendererState::useProgram(const PlanetProgram& shader, const PlanetUniforms
 // Instanced draws start at their first planet by moving where the per-planet attributes
 // of the bound vertex array are read: OpenGL 3.3 has no base instance.
 void RendererState::pointAttributesAt(std::size_t first) {
-    constexpr auto stride = static_cast<GLsizei>(sizeof(PlanetInstance));
-    const auto attribute = [first](GLuint index, GLint size, std::size_t offset) {
-        glVertexAttribPointer(
-            index, size, GL_FLOAT, GL_FALSE, stride,
-            reinterpret_cast<const void*>(first * sizeof(PlanetInstance) + offset));
+    const auto attribute = [first](GLuint index, GLint size, std::size_t stride,
+                                   std::size_t offset) {
+        glVertexAttribPointer(index, size, GL_FLOAT, GL_FALSE, static_cast<GLsizei>(stride),
+                              reinterpret_cast<const void*>(first * stride + offset));
     };
     glBindBuffer(GL_ARRAY_BUFFER, instanceBuffer.id());
-    attribute(0, 4, offsetof(PlanetInstance, center));
-    attribute(1, 4, offsetof(PlanetInstance, color));
-    attribute(2, 2, offsetof(PlanetInstance, rampRow));
+    attribute(0, 4, sizeof(PlanetInstance), offsetof(PlanetInstance, center));
+    attribute(1, 4, sizeof(PlanetInstance), offsetof(PlanetInstance, color));
+    attribute(2, 2, sizeof(PlanetInstance), offsetof(PlanetInstance, rampRow));
+    glBindBuffer(GL_ARRAY_BUFFER, pixelsBuffer.id());
+    attribute(3, 4, sizeof(DrawnPixels), 0);
 }
 
 void RendererState::setBackdrop(const Image& image) {
-    if (image.isNull()) {
-        backdrop.reset();
-        return;
-    }
-    backdrop.create();
-    glBindTexture(GL_TEXTURE_2D, backdrop.id());
-    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
-    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, image.width, image.height, 0, GL_RGBA,
-                 GL_UNSIGNED_BYTE, image.pixels.data());
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
+    finishing.setBackdrop(image);
+    finishedOverBackdrop.reset();
 }
 
-void RendererState::compose(GLuint target, int width, int height, bool overBackdrop) {
-    glBindFramebuffer(GL_FRAMEBUFFER, target);
-    glViewport(0, 0, width, height);
-    glDisable(GL_DEPTH_TEST);
-    glDisable(GL_BLEND);
-    const ComposeProgram& shader = composing[overBackdrop ? 1 : 0];
-    glUseProgram(shader.program.id());
-    glUniform1i(shader.canvas, kCanvasUnit);
-    glActiveTexture(GL_TEXTURE0 + kCanvasUnit);
-    glBindTexture(GL_TEXTURE_2D, canvas.colorTexture());
-    if (overBackdrop) {
-        glUniform1i(shader.backdrop, kBackdropUnit);
-        glActiveTexture(GL_TEXTURE0 + kBackdropUnit);
-        glBindTexture(GL_TEXTURE_2D, backdrop.id());
-        glActiveTexture(GL_TEXTURE0);
+bool RendererState::drawFrame(const Scene& scene, const CameraProjection& camera, int width,
+                              int height, const PixelRect& tile, bool overBackdrop,
+                              std::string* error) {
+    // Errors left over from whoever used the context before are not ours to report.
+    while (glGetError() != GL_NO_ERROR) {
     }
-    glBindVertexArray(composeVertices.id());
-    glDrawArrays(GL_TRIANGLES, 0, 3);
-    glBindVertexArray(0);
-    glUseProgram(0);
+    if (!canvas.ensureSize(tile.width, tile.height, error)) {
+        canvasUniforms.reset();
+        finishedOverBackdrop.reset();
+        return false;
+    }
+    refreshPlanets(scene, camera, width, height);
+    const DrawnArea drawn = drawPlanets(camera, width, height, tile);
+    // The finishing works on the canvas's own pixels.
+    const auto local = [&tile](const PixelRect& rect) {
+        return PixelRect{rect.x - tile.x, rect.y - tile.y, rect.width, rect.height};
+    };
+    const std::optional<PixelRect> soft =
+        canvasSoft ? std::optional(local(*canvasSoft)) : std::nullopt;
+    const PixelRect whole = local(tile);
+    if (finishedOverBackdrop != overBackdrop)
+        finishing.finish(canvas, whole, soft, tile.width, tile.height, overBackdrop);
+    else if (drawn.any)
+        finishing.finish(canvas, local(drawn.part.value_or(tile)), soft, tile.width, tile.height,
+                         overBackdrop);
+    finishedOverBackdrop = overBackdrop;
+    return true;
+}
+
+// Whether OpenGL failed since drawFrame began; then the canvas is to be drawn afresh.
+bool RendererState::drewWithoutError(std::string* error) {
+    const GLenum problem = glGetError();
+    if (problem == GL_NO_ERROR)
+        return true;
+    canvasUniforms.reset();
+    finishedOverBackdrop.reset();
+    if (error != nullptr)
+        *error = problem == GL_OUT_OF_MEMORY
+                     ? "OpenGL ran out of memory while drawing"
+                     : "OpenGL failed while drawing (error " + std::to_string(problem) + ")";
+    return false;
 }
 
 bool RendererState::render(const Scene& scene, const CameraProjection& camera, GLuint target,
                            int width, int height, bool overBackdrop, std::string* error) {
-    // Errors left over from whoever used the context before are not ours to report.
-    while (glGetError() != GL_NO_ERROR) {
-    }
-    if (!canvas.ensureSize(width, height, error)) {
-        canvasUniforms.reset();
+    if (!drawFrame(scene, camera, width, height, PixelRect{0, 0, width, height}, overBackdrop,
+                   error))
         return false;
-    }
-    refreshPlanets(scene, camera, width, height);
-    drawPlanets(camera, width, height);
-    compose(target, width, height, overBackdrop);
-    if (const GLenum problem = glGetError(); problem != GL_NO_ERROR) {
-        canvasUniforms.reset();
-        if (error != nullptr)
-            *error = problem == GL_OUT_OF_MEMORY
-                         ? "OpenGL ran out of memory while drawing"
-                         : "OpenGL failed while drawing (error " + std::to_string(problem) + ")";
-        return false;
-    }
-    return true;
+    glBindFramebuffer(GL_READ_FRAMEBUFFER, canvas.pictureFramebuffer());
+    glBindFramebuffer(GL_DRAW_FRAMEBUFFER, target);
+    glBlitFramebuffer(0, 0, width, height, 0, 0, width, height, GL_COLOR_BUFFER_BIT, GL_NEAREST);
+    glBindFramebuffer(GL_FRAMEBUFFER, target);
+    return drewWithoutError(error);
 }
 
 std::optional<Image> RendererState::renderImage(const Scene& scene, const CameraProjection& camera,
-                                                int width, int height, std::string* error) {
-    if (!picture.ensureSize(width, height, error))
+                                                int width, int height, std::string* error,
+                                                const PictureTiling& tiling) {
+    if (!pictureNotEmpty(width, height, error))
         return std::nullopt;
-    if (!render(scene, camera, picture.framebuffer(), width, height, false, error))
+    if (width > kLargestPictureSide || height > kLargestPictureSide) {
+        if (error != nullptr)
+            *error = pictureText(width, height) + " is larger than the renderer draws (" +
+                     std::to_string(kLargestPictureSide) + " pixels a side)";
         return std::nullopt;
-    Image image(width, height);
-    glBindFramebuffer(GL_READ_FRAMEBUFFER, picture.framebuffer());
-    glPixelStorei(GL_PACK_ALIGNMENT, 1);
-    glReadPixels(0, 0, width, height, GL_RGBA, GL_UNSIGNED_BYTE, image.pixels.data());
-    glBindFramebuffer(GL_READ_FRAMEBUFFER, 0);
-    // OpenGL reads bottom row first.
-    for (int top = 0, bottom = height - 1; top < bottom; ++top, --bottom)
-        std::swap_ranges(image.pixel(0, top), image.pixel(0, top) + image.stride(),
-                         image.pixel(0, bottom));
-    return image;
+    }
+    const int side =
+        std::min(tiling.tileSide > 0 ? tiling.tileSide : kPictureTileSide, largestCanvasSide());
+    const std::vector<PixelRect> tiles = pictureTiles(width, height, side);
+    Image picture;
+    std::vector<std::uint8_t> tilePixels;
+    try {
+        picture = Image(width, height);
+        tilePixels.resize(static_cast<std::size_t>(std::min(side, width)) *
+                          static_cast<std::size_t>(std::min(side, height)) * 4);
+    } catch (const std::bad_alloc&) {
+        if (error != nullptr)
+            *error = "not enough memory for " + pictureText(width, height);
+        return std::nullopt;
+    }
+    for (std::size_t done = 0; done < tiles.size(); ++done) {
+        const PixelRect& tile = tiles[done];
+        if (!drawFrame(scene, camera, width, height, tile, false, error))
+            return std::nullopt;
+        glBindFramebuffer(GL_READ_FRAMEBUFFER, canvas.pictureFramebuffer());
+        glPixelStorei(GL_PACK_ALIGNMENT, 1);
+        glReadPixels(0, 0, tile.width, tile.height, GL_RGBA, GL_UNSIGNED_BYTE, tilePixels.data());
+        glBindFramebuffer(GL_READ_FRAMEBUFFER, 0);
+        if (!drewWithoutError(error))
+            return std::nullopt;
+        placeTile(tilePixels, tile, picture);
+        if (tiling.progress)
+            tiling.progress(static_cast<int>(done + 1), static_cast<int>(tiles.size()));
+    }
+    return picture;
 }
 
 std::string RendererState::description() const {
@@ -455,13 +550,14 @@ bool Renderer::render(const Scene& scene, const CameraProjection& camera, unsign
 }
 
 std::optional<Image> Renderer::renderImage(const SceneView& view, int width, int height,
-                                           std::string* error) {
-    return renderImage(view.scene(), view.projection(width, height), width, height, error);
+                                           std::string* error, const PictureTiling& tiling) {
+    return renderImage(view.scene(), view.projection(width, height), width, height, error, tiling);
 }
 
 std::optional<Image> Renderer::renderImage(const Scene& scene, const CameraProjection& camera,
-                                           int width, int height, std::string* error) {
-    return state_->renderImage(scene, camera, width, height, error);
+                                           int width, int height, std::string* error,
+                                           const PictureTiling& tiling) {
+    return state_->renderImage(scene, camera, width, height, error, tiling);
 }
 
 std::string Renderer::description() const {

@@ -6,6 +6,7 @@
 #include "core/styles/Image.h"
 #include "render/SurfaceSource.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -16,6 +17,18 @@ namespace orrery {
 namespace render {
 class RendererState;
 }
+
+// The largest side of a picture renderImage draws, in pixels: an A1 poster at 300 dots an
+// inch has 9933; beyond, the memory a picture takes grows past what a desktop has to spare.
+inline constexpr int kLargestPictureSide = 16384;
+
+// How renderImage draws a picture in tiles: at most tileSide pixels a side (0: the renderer's
+// own choice, which a smaller OpenGL limit lowers), telling `progress` after each tile how
+// many of how many are done.
+struct PictureTiling {
+    int tileSide = 0;
+    std::function<void(int tilesDone, int tiles)> progress;
+};
 
 // Draws a planet scene with OpenGL 3.3 core (or later) into whatever context is current:
 // exact spheres, one omnidirectional light, gradient or colour diffuse, surface emission,
@@ -37,11 +50,16 @@ public:
     bool render(const Scene& scene, const CameraProjection& camera, unsigned framebuffer, int width,
                 int height, std::string* error = nullptr);
 
-    // The picture at width x height pixels: top row first, straight alpha.
+    // The picture at width x height pixels: top row first, straight alpha. A large picture
+    // is drawn in tiles, so that it needs little memory beyond its own, and at any size
+    // OpenGL cannot draw at once; the tiles join without a seam, into the very picture one
+    // pass would draw.
     std::optional<Image> renderImage(const SceneView& view, int width, int height,
-                                     std::string* error = nullptr);
+                                     std::string* error = nullptr,
+                                     const PictureTiling& tiling = {});
     std::optional<Image> renderImage(const Scene& scene, const CameraProjection& camera, int width,
-                                     int height, std::string* error = nullptr);
+                                     int height, std::string* error = nullptr,
+                                     const PictureTiling& tiling = {});
 
     // The picture that render() lays the planets over, in the same pass that finishes the
     // picture: the target's size, top row first, straight alpha; kept until the next call.

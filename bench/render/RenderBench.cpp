@@ -1,10 +1,14 @@
 // Frame times and peak memory of the headless renderer at 1920 x 1080, for growing numbers
-// of planets, plus hit-test times. Each frame time is also given as a ratio to the floor:
-// one pass of the planet shader over every pixel of the frame (a plain planet that fills
-// the picture), measured in the same process with its frames taken in turn with the
-// case's, so that both see the same machine. Prints figures; never fails on time.
-//   bench_render [--quick] [PLANETS plain|styled [RADIUS]]
-// With a planet count, measures only that case (to compare changes quickly).
+// of planets, plus hit-test times. Every frame time is also given as a ratio to the floor:
+// one bare pass over every pixel of the frame of the planet shader the case's planets use
+// (FloorPass: plain, or with gradient and surface), measured in the same process in turn
+// with the case's frames, so that both see the same machine. Three frames per case: kept (nothing
+// changed since the last frame), drag (one planet moved) and full (the light moved, so every planet
+// is drawn again). Prints figures; never fails on time.
+//   bench_render [--quick] [filling | PLANETS plain|styled [RADIUS]]
+// With a case, measures only that case (to compare changes quickly); "filling" is one
+// plain planet that fills the frame, the floor's own scene drawn by the renderer.
+#include "bench/render/FloorPass.h"
 #include "core/scene/SceneView.h"
 #include "imageio/SurfaceLibrary.h"
 #include "render/HeadlessContext.h"
@@ -22,6 +26,7 @@
 #include <fstream>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <random>
 #include <string>
 #include <vector>
@@ -58,6 +63,7 @@ struct Layout {
     double radius = 24.0;
     bool dressed = false;    // styles and surfaces, or plain white spheres
     double sceneScale = 1.0; // positions and camera scaled too
+    bool filling = false;    // the floor's scene instead: one plain planet filling the frame
 };
 
 // Planets scattered through a box in front of the camera, from 500 to 3000 units away:
@@ -84,11 +90,14 @@ void populate(orrery::SceneView& view, const Layout& layout) {
     }
 }
 
-// The floor's scene: one plain planet, 1,500 units ahead, whose silhouette covers every
-// pixel of the frame.
-void populateFloor(orrery::SceneView& view) {
+// The floor's scene: one planet, 1,500 units ahead, whose silhouette covers every pixel of
+// the frame; plain, or dressed as the dressed cases' planets are, with a style and a surface.
+void populateFloor(orrery::SceneView& view, bool dressed) {
     view.updateCamera(45, 45, 0, 0, 500, true, true);
-    view.createPlanet("floor", "0", "0", "-1000", "1000");
+    if (dressed)
+        view.createPlanet2("floor", {0.3, 0.5, 0.9, 1.0}, 1, 1, "0", "0", "-1000", "1000");
+    else
+        view.createPlanet("floor", "0", "0", "-1000", "1000");
 }
 
 // How many times over the planets' silhouettes would paint the picture.
@@ -161,64 +170,67 @@ orrery::ViewPoint grabPoint(orrery::SceneView& view) {
     return point;
 }
 
+// A kind of frame: its median time and its median ratio to the floor drawn just before.
+struct FrameTimes {
+    std::vector<double> ms;
+    std::vector<double> ratios;
+
+    void add(double frame, double floor) {
+        ms.push_back(frame);
+        ratios.push_back(frame / floor);
+    }
+};
+
 struct Figures {
     double coverage = 0.0;
-    double frameMs = 0.0;
-    double frameRatio = 0.0; // to the floor
-    double dragMs = 0.0;     // a planet moves between frames
-    double dragRatio = 0.0;
-    double floorMs = 0.0;
+    FrameTimes kept;
+    FrameTimes drag;
+    FrameTimes full;
+    std::vector<double> floorMs;
     double peakMiB = 0.0;
 };
 
 using RendererPtr = std::unique_ptr<orrery::Renderer>;
 
-Figures measure(const std::function<RendererPtr()>& makeRenderer, const Layout& layout,
-                bool quick) {
+std::optional<Figures> measure(const std::function<RendererPtr()>& makeRenderer,
+                               const orrery::SurfaceSource& surfaces, const Layout& layout,
+                               bool quick, std::string& error) {
     const double seconds = quick ? 0.3 : 1.5;
     const Target target;
     resetPeakMemory();
     const RendererPtr renderer = makeRenderer();
     orrery::SceneView view;
     view.setViewSize(kWidth, kHeight);
-    populate(view, layout);
+    if (layout.filling)
+        populateFloor(view, false);
+    else
+        populate(view, layout);
+    orrery::SceneView floorView;
+    floorView.setViewSize(kWidth, kHeight);
+    populateFloor(floorView, layout.dressed);
+    const auto floor =
+        orrery::bench::FloorPass::create(floorView, kWidth, kHeight, surfaces, &error);
+    if (!renderer || !floor)
+        return std::nullopt;
     Figures figures;
     figures.coverage = screenCoverage(view);
     frameMs(*renderer, view, target);
 
-    // Dragging: a planet moves before every frame, so the planet data is rebuilt and
-    // uploaded each time.
+    // Each round: the floor, then a full frame, a kept one and a drag frame, in which the
+    // grabbed planet moves (its planet data is patched and uploaded, and its area drawn).
     const orrery::ViewPoint grab = grabPoint(view);
-    std::vector<double> drag;
     view.mouseDown(grab);
-    repeatFor(seconds, [&](int frame) {
-        view.mouseDragged({grab.x + 1 + frame % 5, grab.y});
-        drag.push_back(frameMs(*renderer, view, target));
+    repeatFor(seconds, [&](int round) {
+        const double floorMs = floor->drawMs(target.framebuffer);
+        figures.floorMs.push_back(floorMs);
+        view.updateLight(round % 2 == 0 ? "1" : "0", "0", "100");
+        figures.full.add(frameMs(*renderer, view, target), floorMs);
+        figures.kept.add(frameMs(*renderer, view, target), floorMs);
+        view.mouseDragged({grab.x + 1 + round % 5, grab.y});
+        figures.drag.add(frameMs(*renderer, view, target), floorMs);
     });
     view.mouseUp();
     figures.peakMiB = peakMemoryMiB();
-
-    // Frames of the case and of the floor in turn, each with a renderer of its own so that
-    // neither rebuilds the other's planets.
-    const RendererPtr floorRenderer = makeRenderer();
-    orrery::SceneView floorView;
-    floorView.setViewSize(kWidth, kHeight);
-    populateFloor(floorView);
-    frameMs(*floorRenderer, floorView, target);
-    frameMs(*renderer, view, target);
-    std::vector<double> frames;
-    std::vector<double> floors;
-    std::vector<double> ratios;
-    repeatFor(seconds, [&](int) {
-        floors.push_back(frameMs(*floorRenderer, floorView, target));
-        frames.push_back(frameMs(*renderer, view, target));
-        ratios.push_back(frames.back() / floors.back());
-    });
-    figures.frameMs = median(frames);
-    figures.floorMs = median(floors);
-    figures.frameRatio = median(ratios);
-    figures.dragMs = median(drag);
-    figures.dragRatio = figures.dragMs / figures.floorMs;
     return figures;
 }
 
@@ -239,6 +251,25 @@ void hitTestTimes(int planets) {
                 seconds * 1000.0 / kClicks, hits, kClicks);
 }
 
+void printHeader(const std::string& renderer, const std::string& route) {
+    std::printf("%s via %s, %d x %d; x floor: frame time / the floor's in the same round\n",
+                renderer.c_str(), route.c_str(), kWidth, kHeight);
+    std::printf("%7s %-16s %7s %8s | %8s %7s | %8s %7s | %8s %7s | %8s %8s\n", "planets",
+                "material", "radius", "coverage", "kept ms", "x floor", "drag ms", "x floor",
+                "full ms", "x floor", "floor ms", "peak MiB");
+}
+
+void printFigures(const Layout& layout, const Figures& f) {
+    const char* material = layout.filling   ? "filling"
+                           : layout.dressed ? "styled+surfaced"
+                                            : "plain";
+    std::printf("%7d %-16s %7.1f %8.2f | %8.1f %7.2f | %8.1f %7.2f | %8.1f %7.2f | %8.1f %8.1f\n",
+                layout.filling ? 1 : layout.planets, material,
+                layout.filling ? 1000.0 : layout.radius, f.coverage, median(f.kept.ms),
+                median(f.kept.ratios), median(f.drag.ms), median(f.drag.ratios), median(f.full.ms),
+                median(f.full.ratios), median(f.floorMs), f.peakMiB);
+}
+
 // Measures one layout in a process of its own, so that its peak memory is its own.
 bool runOne(const Layout& layout, bool quick, bool describe = false) {
     std::fflush(stdout);
@@ -248,29 +279,26 @@ bool runOne(const Layout& layout, bool quick, bool describe = false) {
     if (child == 0) {
         std::string error;
         const auto context = orrery::HeadlessContext::create(&error);
-        orrery::imageio::SurfaceLibrary surfaces;
+        orrery::imageio::SurfaceLibrary library;
+        const orrery::SurfaceSource surfaces = [&library](const std::string& name) {
+            return library.surfaceNamed(name);
+        };
         const auto makeRenderer = [&]() -> RendererPtr {
-            return context ? orrery::Renderer::create(
-                                 [&surfaces](const std::string& name) {
-                                     return surfaces.surfaceNamed(name);
-                                 },
-                                 &error)
-                           : nullptr;
+            return context ? orrery::Renderer::create(surfaces, &error) : nullptr;
         };
         if (const RendererPtr probe = makeRenderer(); !probe) {
             std::fprintf(stderr, "bench_render: %s\n", error.c_str());
             _exit(2);
         } else if (describe) {
-            std::printf("%s via %s, %d x %d\n", probe->description().c_str(),
-                        context->route().c_str(), kWidth, kHeight);
-            std::printf("%7s %-16s %7s %8s %9s %8s %9s %8s %9s %9s\n", "planets", "material",
-                        "radius", "coverage", "frame ms", "x floor", "drag ms", "x floor",
-                        "floor ms", "peak MiB");
+            printHeader(probe->description(), context->route());
         }
-        const Figures f = measure(makeRenderer, layout, quick);
-        std::printf("%7d %-16s %7.1f %8.2f %9.1f %8.2f %9.1f %8.2f %9.1f %9.1f\n", layout.planets,
-                    layout.dressed ? "styled+surfaced" : "plain", layout.radius, f.coverage,
-                    f.frameMs, f.frameRatio, f.dragMs, f.dragRatio, f.floorMs, f.peakMiB);
+        const std::optional<Figures> figures =
+            measure(makeRenderer, surfaces, layout, quick, error);
+        if (!figures) {
+            std::fprintf(stderr, "bench_render: %s\n", error.c_str());
+            _exit(2);
+        }
+        printFigures(layout, *figures);
         std::fflush(stdout);
         _exit(0);
     }
@@ -278,25 +306,24 @@ bool runOne(const Layout& layout, bool quick, bool describe = false) {
     waitpid(child, &status, 0);
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
-
 } // namespace
 
 int main(int argc, char** argv) {
     const bool quick = argc > 1 && std::string(argv[1]) == "--quick";
     const int rest = quick ? 2 : 1;
+    if (argc == rest + 1 && std::string(argv[rest]) == "filling")
+        return runOne(Layout{.filling = true}, quick, true) ? 0 : 2;
     if (argc == rest + 2 || argc == rest + 3) {
         const bool dressed = std::string(argv[rest + 1]) == "styled";
         const double radius = argc == rest + 3 ? std::atof(argv[rest + 2]) : 24.0;
         return runOne(Layout{std::atoi(argv[rest]), radius, dressed}, quick, true) ? 0 : 2;
     }
-    bool first = true;
-    for (const bool dressed : {false, true}) {
-        for (const int planets : {1, 100, 1000, 10000, 100000}) {
-            if (!runOne(Layout{planets, 24.0, dressed}, quick, first))
+    if (!runOne(Layout{.filling = true}, quick, true))
+        return 2;
+    for (const bool dressed : {false, true})
+        for (const int planets : {1, 100, 1000, 10000, 100000})
+            if (!runOne(Layout{planets, 24.0, dressed}, quick))
                 return 2;
-            first = false;
-        }
-    }
     // Memory must not follow the radius: the same picture drawn at two scales.
     for (const double radius : {5.0, 5000.0})
         if (!runOne(Layout{1000, radius, true, radius / 24.0}, quick))

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdint>
 #include <iterator>
+#include <utility>
 
 namespace orrery {
 namespace {
@@ -16,8 +17,8 @@ std::uint8_t toByte(double component) {
 
 } // namespace
 
-Image overImage3(const Image& picture, Color background) {
-    Image result = picture;
+Image overImage3(Image picture, Color background) {
+    Image result = std::move(picture);
     if (result.isNull())
         return result;
     const std::uint8_t under[4] = {toByte(background.red), toByte(background.green),
@@ -44,11 +45,12 @@ Image overImage3(const Image& picture, Color background) {
     return result;
 }
 
-Image exportPicture(const Image& scene, long currentBackground, bool includeBackground) {
-    if (!includeBackground)
+Image exportPicture(Image scene, long currentBackground, bool includeBackground) {
+    const std::optional<Color> colour =
+        includeBackground ? exportBackgroundColor(currentBackground) : std::nullopt;
+    if (!colour)
         return scene;
-    const std::optional<Color> colour = exportBackgroundColor(currentBackground);
-    return colour ? overImage3(scene, *colour) : scene;
+    return overImage3(std::move(scene), *colour);
 }
 
 } // namespace orrery

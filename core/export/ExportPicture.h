@@ -6,12 +6,13 @@
 namespace orrery {
 
 // The picture laid over a plain image of the same size in one colour: straight-alpha
-// "source over", so the result is opaque wherever the colour is opaque.
-Image overImage3(const Image& picture, Color background);
+// "source over", so the result is opaque wherever the colour is opaque. Done in place on a
+// picture handed over, so that a poster is not held twice.
+Image overImage3(Image picture, Color background);
 
 // What an export writes for the scene picture: laid over the background colour when the
 // user asked for it and a colour is chosen (backgrounds 1 to 5); otherwise the picture
 // alone, transparency kept. Background 0 never lays anything under it.
-Image exportPicture(const Image& scene, long currentBackground, bool includeBackground);
+Image exportPicture(Image scene, long currentBackground, bool includeBackground);
 
 } // namespace orrery
