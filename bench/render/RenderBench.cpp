@@ -276,17 +276,16 @@ void printFigures(const Layout& layout, const Figures& f) {
     const char* material = layout.filling   ? "filling"
                            : layout.dressed ? "styled+surfaced"
                                             : "plain";
-    const std::string overPlain =
-        f.plainFloorMs.empty()
-            ? std::string()
-            : std::to_string(median(f.fullOverPlain.ratios)).substr(0, 4) + " (" +
-                  std::to_string(median(f.plainFloorMs)).substr(0, 4) + ")";
+    char overPlain[32] = "";
+    if (!f.plainFloorMs.empty())
+        std::snprintf(overPlain, sizeof overPlain, "%.2f (%.1f)", median(f.fullOverPlain.ratios),
+                      median(f.plainFloorMs));
     std::printf(
         "%7d %-16s %7.1f %8.2f | %8.1f %7.2f | %8.1f %7.2f | %8.1f %7.2f | %8.1f | %14s %8.1f\n",
         layout.filling ? 1 : layout.planets, material, layout.filling ? 1000.0 : layout.radius,
         f.coverage, median(f.kept.ms), median(f.kept.ratios), median(f.drag.ms),
         median(f.drag.ratios), median(f.full.ms), median(f.full.ratios), median(f.floorMs),
-        overPlain.c_str(), f.peakMiB);
+        overPlain, f.peakMiB);
 }
 
 // Measures one layout in a process of its own, so that its peak memory is its own.
