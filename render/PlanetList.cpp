@@ -218,19 +218,20 @@ void PlanetList::appendBand(const Band& band, Pass& pass) {
     const auto append = [&](std::size_t candidate) {
         const PassPlanet& planet = band.plan.planets[candidate];
         const PlanetDraw& from = *band.candidateDraws[candidate];
-        const PlanetDraw kind{pass.instances.size(),
-                              planet.pieceCount,
-                              from.textured,
-                              from.shape,
-                              planet.role == PassRole::alone,
-                              from.shape != PlanetShape::quad && planet.pieceCount > 1};
         const std::size_t bandStart = pass.bands.empty() ? 0 : pass.bands.back().second;
         PlanetDraw* last = pass.draws.size() > bandStart ? &pass.draws.back() : nullptr;
-        if (last != nullptr && last->shape == kind.shape && last->textured == kind.textured &&
-            last->alone == kind.alone && last->inPieces == kind.inPieces)
-            last->count += kind.count;
+        const bool sameKind = last != nullptr && last->shape == from.shape &&
+                              last->textured == from.textured &&
+                              last->alone == (planet.role == PassRole::alone);
+        // A sprite in pieces is drawn as rectangles; so are the sprites after it in the same
+        // draw, one piece each, rather than starting a draw of points for them.
+        const bool inPieces = from.shape != PlanetShape::quad &&
+                              (planet.pieceCount > 1 || (sameKind && last->inPieces));
+        if (sameKind && last->inPieces == inPieces)
+            last->count += planet.pieceCount;
         else
-            pass.draws.push_back(kind);
+            pass.draws.push_back({pass.instances.size(), planet.pieceCount, from.textured,
+                                  from.shape, planet.role == PassRole::alone, inPieces});
         for (std::size_t piece = planet.firstPiece; piece < planet.firstPiece + planet.pieceCount;
              ++piece) {
             const PixelRect& at = band.plan.pieces[piece];
