@@ -1,7 +1,9 @@
 #include "render/PlanetList.h"
 
 #include <algorithm>
+#include <future>
 #include <limits>
+#include <thread>
 #include <utility>
 
 namespace orrery::render {
@@ -10,6 +12,11 @@ namespace {
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr PixelBox kEverywhere{-kInfinity, -kInfinity, kInfinity, kInfinity};
 constexpr std::uint8_t kNotDrawn = 0;
+// Passes over this many planets or more are planned in bands, on several threads, when the
+// area has room for bands of at least kBandHeight rows.
+constexpr std::size_t kPlannedApart = 4096;
+constexpr int kBandHeight = 128;
+constexpr std::size_t kMostBands = 4;
 
 PixelBox reachOf(const PlanetInstance& planet, const ScreenFrame& frame) {
     const auto box = silhouetteBox(planet, frame);
@@ -148,9 +155,43 @@ std::optional<PixelBox> PlanetList::takeChangedArea(const std::vector<PlanetDraw
 void PlanetList::passOver(const PixelRect& area, const std::vector<PlanetDraw>& draws,
                           const DepthFrame& frame, const std::vector<bool>& opaqueRamps,
                           Pass& pass) {
-    const PixelBox box{static_cast<double>(area.x), static_cast<double>(area.y),
-                       static_cast<double>(area.x + area.width),
-                       static_cast<double>(area.y + area.height)};
+    // A large pass over many planets is planned in bands of rows, one a core: each band's
+    // planets, and so its plan, are its own.
+    const bool split = instances_.size() >= kPlannedApart && area.height >= 2 * kBandHeight;
+    const auto count =
+        split ? std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, kMostBands) : 1;
+    bands_.resize(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        const int bottom = area.y + static_cast<int>(area.height * i / count);
+        const int top = area.y + static_cast<int>(area.height * (i + 1) / count);
+        bands_[i].area = {area.x, bottom, area.width, top - bottom};
+    }
+    std::vector<std::future<void>> others;
+    for (std::size_t i = 1; i < count; ++i)
+        others.push_back(std::async(std::launch::async,
+                                    [&, i] { planBand(bands_[i], draws, frame, opaqueRamps); }));
+    planBand(bands_[0], draws, frame, opaqueRamps);
+    for (std::future<void>& other : others)
+        other.get();
+
+    pass.instances.clear();
+    pass.pixels.clear();
+    pass.draws.clear();
+    pass.bands.clear();
+    pass.soft.reset();
+    // The bands share no pixel: each is drawn after the other.
+    for (const Band& band : bands_) {
+        appendBand(band, pass);
+        pass.bands.emplace_back(band.area, pass.draws.size());
+        pass.soft = unite(pass.soft, band.plan.soft);
+    }
+}
+
+void PlanetList::planBand(Band& band, const std::vector<PlanetDraw>& draws, const DepthFrame& frame,
+                          const std::vector<bool>& opaqueRamps) {
+    const PixelBox box{static_cast<double>(band.area.x), static_cast<double>(band.area.y),
+                       static_cast<double>(band.area.x + band.area.width),
+                       static_cast<double>(band.area.y + band.area.height)};
     const auto opaque = [&opaqueRamps](const PlanetInstance& planet) {
         if (planet.color[3] != 1.0f)
             return false;
@@ -159,42 +200,42 @@ void PlanetList::passOver(const PixelRect& area, const std::vector<PlanetDraw>& 
         const auto row = static_cast<std::size_t>(planet.rampRow);
         return row < opaqueRamps.size() && opaqueRamps[row];
     };
-    candidates_.clear();
-    candidateDraws_.clear();
+    band.candidates.clear();
+    band.candidateDraws.clear();
     for (const PlanetDraw& draw : draws) {
         for (std::size_t i = draw.first; i < draw.first + draw.count; ++i) {
             if (!overlap(entries_[i].reach, box))
                 continue;
-            candidates_.push_back({&instances_[i], entries_[i].reach, opaque(instances_[i])});
-            candidateDraws_.push_back(&draw);
+            band.candidates.push_back({&instances_[i], entries_[i].reach, opaque(instances_[i])});
+            band.candidateDraws.push_back(&draw);
         }
     }
-    assignPassRoles(candidates_, frame, area, plan_);
+    assignPassRoles(band.candidates, frame, band.area, band.plan);
+}
 
-    pass.instances.clear();
-    pass.pixels.clear();
-    pass.draws.clear();
-    pass.soft = plan_.soft;
+void PlanetList::appendBand(const Band& band, Pass& pass) {
     // Each piece of a planet is one instance of it, drawn over that piece.
     const auto append = [&](std::size_t candidate) {
-        const PassPlanet& planet = plan_.planets[candidate];
-        const PlanetDraw& from = *candidateDraws_[candidate];
-        const PlanetDraw kind{pass.instances.size(),
-                              planet.pieceCount,
-                              from.textured,
-                              from.shape,
-                              planet.role == PassRole::alone,
-                              from.shape != PlanetShape::quad && planet.pieceCount > 1};
-        PlanetDraw* last = pass.draws.empty() ? nullptr : &pass.draws.back();
-        if (last != nullptr && last->shape == kind.shape && last->textured == kind.textured &&
-            last->alone == kind.alone && last->inPieces == kind.inPieces)
-            last->count += kind.count;
+        const PassPlanet& planet = band.plan.planets[candidate];
+        const PlanetDraw& from = *band.candidateDraws[candidate];
+        const std::size_t bandStart = pass.bands.empty() ? 0 : pass.bands.back().second;
+        PlanetDraw* last = pass.draws.size() > bandStart ? &pass.draws.back() : nullptr;
+        const bool sameKind = last != nullptr && last->shape == from.shape &&
+                              last->textured == from.textured &&
+                              last->alone == (planet.role == PassRole::alone);
+        // A sprite in pieces is drawn as rectangles; so are the sprites after it in the same
+        // draw, one piece each, rather than starting a draw of points for them.
+        const bool inPieces = from.shape != PlanetShape::quad &&
+                              (planet.pieceCount > 1 || (sameKind && last->inPieces));
+        if (sameKind && last->inPieces == inPieces)
+            last->count += planet.pieceCount;
         else
-            pass.draws.push_back(kind);
+            pass.draws.push_back({pass.instances.size(), planet.pieceCount, from.textured,
+                                  from.shape, planet.role == PassRole::alone, inPieces});
         for (std::size_t piece = planet.firstPiece; piece < planet.firstPiece + planet.pieceCount;
              ++piece) {
-            const PixelRect& at = plan_.pieces[piece];
-            pass.instances.push_back(*candidates_[candidate].planet);
+            const PixelRect& at = band.plan.pieces[piece];
+            pass.instances.push_back(*band.candidates[candidate].planet);
             pass.pixels.push_back({static_cast<float>(at.x), static_cast<float>(at.y),
                                    static_cast<float>(at.x + at.width),
                                    static_cast<float>(at.y + at.height)});
@@ -204,12 +245,13 @@ void PlanetList::passOver(const PixelRect& area, const std::vector<PlanetDraw>& 
     for (const PlanetShape shape :
          {PlanetShape::tinySprite, PlanetShape::sprite, PlanetShape::quad})
         for (const bool textured : {false, true})
-            for (std::size_t i = 0; i < candidates_.size(); ++i)
-                if (plan_.planets[i].role == PassRole::alone &&
-                    candidateDraws_[i]->shape == shape && candidateDraws_[i]->textured == textured)
+            for (std::size_t i = 0; i < band.candidates.size(); ++i)
+                if (band.plan.planets[i].role == PassRole::alone &&
+                    band.candidateDraws[i]->shape == shape &&
+                    band.candidateDraws[i]->textured == textured)
                     append(i);
-    for (std::size_t i = 0; i < candidates_.size(); ++i)
-        if (plan_.planets[i].role == PassRole::shared)
+    for (std::size_t i = 0; i < band.candidates.size(); ++i)
+        if (band.plan.planets[i].role == PassRole::shared)
             append(i);
 }
 

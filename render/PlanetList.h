@@ -45,6 +45,9 @@ public:
         std::vector<PlanetInstance> instances;
         std::vector<DrawnPixels> pixels; // beside instances
         std::vector<PlanetDraw> draws;
+        // The bands the area was planned in, each with the end of its draws: a band's draws
+        // are to be cut to its area, as a sprite's square may reach past it.
+        std::vector<std::pair<PixelRect, std::size_t>> bands;
         // Where the planets may leave a colour that lets what lies behind show; none: nowhere.
         std::optional<PixelRect> soft;
     };
@@ -64,10 +67,19 @@ private:
     Vec3 eye_;
     ScreenFrame frame_;
     std::optional<PixelBox> changedArea_;
-    // A pass's candidates, the draws they come from and their roles, kept for their capacity.
-    std::vector<PassCandidate> candidates_;
-    std::vector<const PlanetDraw*> candidateDraws_;
-    PassPlan plan_;
+
+    // A band of a pass's area, planned on a thread of its own: its candidates, the draws they
+    // come from and their plan, kept from pass to pass for their memory.
+    struct Band {
+        PixelRect area;
+        std::vector<PassCandidate> candidates;
+        std::vector<const PlanetDraw*> candidateDraws;
+        PassPlan plan;
+    };
+    void planBand(Band& band, const std::vector<PlanetDraw>& draws, const DepthFrame& frame,
+                  const std::vector<bool>& opaqueRamps);
+    static void appendBand(const Band& band, Pass& pass);
+    std::vector<Band> bands_;
 };
 
 } // namespace orrery::render

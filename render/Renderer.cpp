@@ -126,7 +126,8 @@ private:
     void upload(const PlanetList::Pass& pass);
     DrawnArea drawPlanets(const CameraProjection& camera, int width, int height,
                           const PixelRect& tile);
-    void drawInstances(const std::vector<PlanetDraw>& planetDraws, const PlanetUniforms& uniforms);
+    void drawInstances(const std::vector<PlanetDraw>& planetDraws, std::size_t first,
+                       std::size_t end, const PlanetUniforms& uniforms);
     void useProgram(const PlanetProgram& shader, const PlanetUniforms& uniforms);
     void pointAttributesAt(std::size_t first);
 
@@ -327,14 +328,24 @@ DrawnArea RendererState::drawPlanets(const CameraProjection& camera, int width, 
         canvasSoft = wholePass.soft;
     }
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT | GL_STENCIL_BUFFER_BIT);
-    drawInstances(part ? partPass.draws : wholePass.draws, uniforms);
+    const PlanetList::Pass& pass = part ? partPass : wholePass;
+    std::size_t first = 0;
+    for (const auto& [band, end] : pass.bands) {
+        const std::optional<PixelRect> cut = overlapOf(band, part.value_or(tile));
+        if (cut) {
+            glEnable(GL_SCISSOR_TEST);
+            glScissor(cut->x - tile.x, cut->y - tile.y, cut->width, cut->height);
+            drawInstances(pass.draws, first, end, uniforms);
+        }
+        first = end;
+    }
     glDisable(GL_SCISSOR_TEST);
     return {true, part};
 }
 
-void RendererState::drawInstances(const std::vector<PlanetDraw>& planetDraws,
-                                  const PlanetUniforms& uniforms) {
-    if (planetDraws.empty())
+void RendererState::drawInstances(const std::vector<PlanetDraw>& planetDraws, std::size_t first,
+                                  std::size_t end, const PlanetUniforms& uniforms) {
+    if (first == end)
         return;
     glDepthFunc(GL_LESS);
     glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA); // the canvas holds premultiplied colour
@@ -351,7 +362,8 @@ void RendererState::drawInstances(const std::vector<PlanetDraw>& planetDraws,
     glBindTexture(GL_TEXTURE_2D, gradientRamps.id());
     glActiveTexture(GL_TEXTURE0 + kSurfaceUnit);
     glBindTexture(GL_TEXTURE_2D_ARRAY, surfaces.texture());
-    for (const PlanetDraw& draw : planetDraws) {
+    for (std::size_t i = first; i < end; ++i) {
+        const PlanetDraw& draw = planetDraws[i];
         // A planet alone on the cleared canvas needs neither: every colour of it passes, and
         // blending over nothing leaves the colour itself.
         if (draw.alone) {

@@ -187,6 +187,10 @@ struct Figures {
     FrameTimes drag;
     FrameTimes full;
     std::vector<double> floorMs;
+    // For styled cases, the full frame against the plain shader's floor too: what styles and
+    // surfaces cost on top of it.
+    FrameTimes fullOverPlain;
+    std::vector<double> plainFloorMs;
     double peakMiB = 0.0;
 };
 
@@ -205,12 +209,15 @@ std::optional<Figures> measure(const std::function<RendererPtr()>& makeRenderer,
         populateFloor(view, false);
     else
         populate(view, layout);
-    orrery::SceneView floorView;
-    floorView.setViewSize(kWidth, kHeight);
-    populateFloor(floorView, layout.dressed);
-    const auto floor =
-        orrery::bench::FloorPass::create(floorView, kWidth, kHeight, surfaces, &error);
-    if (!renderer || !floor)
+    const auto floorFor = [&](bool dressed) {
+        orrery::SceneView floorView;
+        floorView.setViewSize(kWidth, kHeight);
+        populateFloor(floorView, dressed);
+        return orrery::bench::FloorPass::create(floorView, kWidth, kHeight, surfaces, &error);
+    };
+    const auto floor = floorFor(layout.dressed);
+    const auto plainFloor = layout.dressed ? floorFor(false) : nullptr;
+    if (!renderer || !floor || (layout.dressed && !plainFloor))
         return std::nullopt;
     Figures figures;
     figures.coverage = screenCoverage(view);
@@ -223,8 +230,14 @@ std::optional<Figures> measure(const std::function<RendererPtr()>& makeRenderer,
     repeatFor(seconds, [&](int round) {
         const double floorMs = floor->drawMs(target.framebuffer);
         figures.floorMs.push_back(floorMs);
+        const double plainFloorMs = plainFloor ? plainFloor->drawMs(target.framebuffer) : 0.0;
         view.updateLight(round % 2 == 0 ? "1" : "0", "0", "100");
-        figures.full.add(frameMs(*renderer, view, target), floorMs);
+        const double fullMs = frameMs(*renderer, view, target);
+        figures.full.add(fullMs, floorMs);
+        if (plainFloor) {
+            figures.plainFloorMs.push_back(plainFloorMs);
+            figures.fullOverPlain.add(fullMs, plainFloorMs);
+        }
         figures.kept.add(frameMs(*renderer, view, target), floorMs);
         view.mouseDragged({grab.x + 1 + round % 5, grab.y});
         figures.drag.add(frameMs(*renderer, view, target), floorMs);
@@ -254,20 +267,25 @@ void hitTestTimes(int planets) {
 void printHeader(const std::string& renderer, const std::string& route) {
     std::printf("%s via %s, %d x %d; x floor: frame time / the floor's in the same round\n",
                 renderer.c_str(), route.c_str(), kWidth, kHeight);
-    std::printf("%7s %-16s %7s %8s | %8s %7s | %8s %7s | %8s %7s | %8s %8s\n", "planets",
+    std::printf("%7s %-16s %7s %8s | %8s %7s | %8s %7s | %8s %7s | %8s | %14s %8s\n", "planets",
                 "material", "radius", "coverage", "kept ms", "x floor", "drag ms", "x floor",
-                "full ms", "x floor", "floor ms", "peak MiB");
+                "full ms", "x floor", "floor ms", "full x plain", "peak MiB");
 }
 
 void printFigures(const Layout& layout, const Figures& f) {
     const char* material = layout.filling   ? "filling"
                            : layout.dressed ? "styled+surfaced"
                                             : "plain";
-    std::printf("%7d %-16s %7.1f %8.2f | %8.1f %7.2f | %8.1f %7.2f | %8.1f %7.2f | %8.1f %8.1f\n",
-                layout.filling ? 1 : layout.planets, material,
-                layout.filling ? 1000.0 : layout.radius, f.coverage, median(f.kept.ms),
-                median(f.kept.ratios), median(f.drag.ms), median(f.drag.ratios), median(f.full.ms),
-                median(f.full.ratios), median(f.floorMs), f.peakMiB);
+    char overPlain[32] = "";
+    if (!f.plainFloorMs.empty())
+        std::snprintf(overPlain, sizeof overPlain, "%.2f (%.1f)", median(f.fullOverPlain.ratios),
+                      median(f.plainFloorMs));
+    std::printf(
+        "%7d %-16s %7.1f %8.2f | %8.1f %7.2f | %8.1f %7.2f | %8.1f %7.2f | %8.1f | %14s %8.1f\n",
+        layout.filling ? 1 : layout.planets, material, layout.filling ? 1000.0 : layout.radius,
+        f.coverage, median(f.kept.ms), median(f.kept.ratios), median(f.drag.ms),
+        median(f.drag.ratios), median(f.full.ms), median(f.full.ratios), median(f.floorMs),
+        overPlain, f.peakMiB);
 }
 
 // Measures one layout in a process of its own, so that its peak memory is its own.

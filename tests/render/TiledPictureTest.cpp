@@ -16,18 +16,18 @@ constexpr int kHeight = 400;
 
 // Planets across the tiles' borders in every way: small sprites and large quads, soft edges,
 // translucent colours, planets hidden behind, meeting or inside others, one reaching past
-// the eye.
+// the eye; enough of them that the whole picture is planned in bands, the tiles not.
 void strewPlanets(SceneView& view) {
     std::mt19937 random(5);
     std::uniform_real_distribution<double> unit(0.0, 1.0);
-    for (int i = 0; i < 400; ++i) {
+    for (int i = 0; i < 5000; ++i) {
         const double z = -900.0 + 1300.0 * unit(random);
         const double reach = (500.0 - z) * 0.45;
         const Color colour{unit(random), unit(random), unit(random), i % 7 == 0 ? 0.5 : 1.0};
         view.createPlanet2(std::to_string(i), colour, i % 3 == 0 ? 0 : 1 + i % 84, i % 4,
                            std::to_string((unit(random) * 2 - 1) * reach * 1.5),
                            std::to_string((unit(random) * 2 - 1) * reach), std::to_string(z),
-                           std::to_string(2.0 + 40.0 * unit(random) * unit(random)));
+                           std::to_string(1.0 + 30.0 * unit(random) * unit(random) * unit(random)));
     }
     view.createPlanet2("inside", {0.9, 0.8, 0.1, 1.0}, 5, 2, "-20", "10", "-50", "60");
     view.createPlanet2("near", {0.9, 0.2, 0.2, 1.0}, 0, 1, "60", "-40", "400", "130");
