@@ -14,7 +14,7 @@ constexpr GLint kSoftMark = 1;
 
 } // namespace
 
-bool PictureFinish::build(bool stencilMarks, std::string* error) {
+bool PictureFinish::build(std::string* error) {
     for (const bool overBackdrop : {false, true}) {
         auto built = buildProgram(kComposeVertexShader, composeFragmentShader(overBackdrop), error);
         if (!built)
@@ -25,7 +25,6 @@ bool PictureFinish::build(bool stencilMarks, std::string* error) {
         shader.backdrop = glGetUniformLocation(shader.program.id(), "backdrop");
     }
     vertices_.create();
-    stencilMarks_ = stencilMarks;
     return true;
 }
 
@@ -45,7 +44,7 @@ void PictureFinish::setBackdrop(const Image& image) {
 
 void PictureFinish::finish(const Canvas& canvas, const PixelRect& area,
                            const std::optional<PixelRect>& soft, int width, int height,
-                           bool overBackdrop) {
+                           bool overBackdrop, bool marked) {
     glDisable(GL_DEPTH_TEST);
     glDisable(GL_BLEND);
     glDisable(GL_SCISSOR_TEST);
@@ -65,7 +64,7 @@ void PictureFinish::finish(const Canvas& canvas, const PixelRect& area,
     glViewport(0, 0, width, height);
     glEnable(GL_SCISSOR_TEST);
     glScissor(shaded->x, shaded->y, shaded->width, shaded->height);
-    if (stencilMarks_) {
+    if (marked) {
         glEnable(GL_STENCIL_TEST);
         glStencilMask(0);
         glStencilFunc(overBackdrop ? GL_GEQUAL : GL_EQUAL, kSoftMark, 0xFF);

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <tuple>
 
 namespace orrery::render {
 namespace {
@@ -16,11 +15,11 @@ constexpr double kDepthMargin = 4e-6;
 // How far inside the silhouette, in pixel angles, the inner disc stays: there the shader's
 // edge coverage, which fades over at most 0.71 of a pixel angle, is exactly one.
 constexpr double kInnerMargin = 1.5;
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-// Culling pays where the planets paint the area at least this many times over; below, its
-// bookkeeping costs more than the drawing it spares.
+// Culling pays where the planets paint the area at least this many times over.
 constexpr double kCullingPays = 2.0;
-constexpr int kLargeSpan = 64 * 64; // pixels
+// Without culling, only a planet this large (in pixels of its span) is worth finding the
+// soft pixels of: a smaller one counts as soft throughout.
+constexpr int kLargeSpan = 64 * 64;
 // A planet partly hidden is drawn in pieces, each a box around its shown pixels in a band
 // of rows; two bands become one piece unless that draws more pixels than a piece costs.
 constexpr int kBandRows = 16;
@@ -192,6 +191,10 @@ void cutIntoPieces(const Span& span, const std::vector<Columns>& shown,
 
 } // namespace
 
+bool cullingPays(double painted, const PixelRect& area) {
+    return painted >= kCullingPays * area.width * area.height;
+}
+
 void assignPassRoles(const std::vector<PassCandidate>& candidates, const DepthFrame& frame,
                      const PixelRect& area, PassPlan& plan) {
     plan.planets.assign(candidates.size(), PassPlanet{});
@@ -213,7 +216,7 @@ void assignPassRoles(const std::vector<PassCandidate>& candidates, const DepthFr
         if (!spans[i].empty())
             painted += static_cast<double>(spans[i].rect().width) * spans[i].rect().height;
     }
-    const bool culling = painted >= kCullingPays * area.width * area.height;
+    const bool culling = cullingPays(painted, area);
     CoverGrid& grid = work.grid;
     grid.reset(area, culling);
     Span soft;

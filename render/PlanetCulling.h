@@ -75,6 +75,10 @@ struct PassPlan {
     } work;
 };
 
+// Whether culling pays for a pass over `area` whose planets' reaches cover `painted` pixels
+// of it: only where they paint it over a few times does it spare more than it costs.
+bool cullingPays(double painted, const PixelRect& area);
+
 // The part of each candidate, given in drawing order, in a pass that draws `area`; replaces
 // the contents of `plan`. A planet is left out wherever the outcome of drawing every planet
 // in order with the depth test (nearer wins, the first of equals) and blending provably

@@ -155,6 +155,35 @@ std::optional<PixelBox> PlanetList::takeChangedArea(const std::vector<PlanetDraw
 void PlanetList::passOver(const PixelRect& area, const std::vector<PlanetDraw>& draws,
                           const DepthFrame& frame, const std::vector<bool>& opaqueRamps,
                           Pass& pass) {
+    pass.instances.clear();
+    pass.pixels.clear();
+    pass.draws.clear();
+    pass.bands.clear();
+    pass.soft.reset();
+    // Many planets, most of those listed, that paint the area only a few times over are drawn
+    // as they are listed.
+    const PixelBox box{static_cast<double>(area.x), static_cast<double>(area.y),
+                       static_cast<double>(area.x + area.width),
+                       static_cast<double>(area.y + area.height)};
+    double painted = 0.0;
+    std::size_t touching = 0;
+    for (const Entry& entry : entries_) {
+        const double covered = std::max(0.0, std::min(entry.reach.right, box.right) -
+                                                 std::max(entry.reach.left, box.left)) *
+                               std::max(0.0, std::min(entry.reach.top, box.top) -
+                                                 std::max(entry.reach.bottom, box.bottom));
+        painted += covered;
+        touching += covered > 0.0 ? 1 : 0;
+    }
+    pass.asListed = touching >= kPlannedApart && 4 * touching >= 3 * instances_.size() &&
+                    !cullingPays(painted, area);
+    if (pass.asListed) {
+        pass.draws = draws;
+        pass.bands.emplace_back(area, draws.size());
+        pass.soft = area; // where planets are many, their edges are everywhere
+        return;
+    }
+
     // A large pass over many planets is planned in bands of rows, one a core: each band's
     // planets, and so its plan, are its own.
     const bool split = instances_.size() >= kPlannedApart && area.height >= 2 * kBandHeight;
@@ -174,11 +203,6 @@ void PlanetList::passOver(const PixelRect& area, const std::vector<PlanetDraw>& 
     for (std::future<void>& other : others)
         other.get();
 
-    pass.instances.clear();
-    pass.pixels.clear();
-    pass.draws.clear();
-    pass.bands.clear();
-    pass.soft.reset();
     // The bands share no pixel: each is drawn after the other.
     for (const Band& band : bands_) {
         appendBand(band, pass);

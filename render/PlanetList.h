@@ -42,6 +42,9 @@ public:
     // drawn at, without those that cannot show (see assignPassRoles); those alone in the area
     // first, then the others in order. `opaqueRamps` tells which gradient ramps are opaque.
     struct Pass {
+        // The planets as the list holds them, drawn by the scene's draws over the whole area:
+        // a pass over many planets that culling would not pay for, which need not be copied.
+        bool asListed = false;
         std::vector<PlanetInstance> instances;
         std::vector<DrawnPixels> pixels; // beside instances
         std::vector<PlanetDraw> draws;

@@ -24,6 +24,7 @@ namespace orrery {
 namespace render {
 namespace {
 
+constexpr GLuint kDrawnPixelsAttribute = 3;
 constexpr int kRampUnit = 0;
 constexpr int kSurfaceUnit = 1;
 constexpr int kNeededGlVersion = 33;
@@ -95,6 +96,7 @@ private:
 struct DrawnArea {
     bool any = false;
     std::optional<PixelRect> part; // none: all of it
+    bool marked = false;           // its soft pixels are marked in the stencil
 };
 
 } // namespace
@@ -127,7 +129,8 @@ private:
     DrawnArea drawPlanets(const CameraProjection& camera, int width, int height,
                           const PixelRect& tile);
     void drawInstances(const std::vector<PlanetDraw>& planetDraws, std::size_t first,
-                       std::size_t end, const PlanetUniforms& uniforms);
+                       std::size_t end, const std::optional<DrawnPixels>& everywhere, bool marks,
+                       const PlanetUniforms& uniforms);
     void useProgram(const PlanetProgram& shader, const PlanetUniforms& uniforms);
     void pointAttributesAt(std::size_t first);
 
@@ -164,8 +167,10 @@ private:
     std::optional<PlanetUniforms> canvasUniforms;
     // Whether the canvas's picture is finished over the backdrop; none when it is not finished.
     std::optional<bool> finishedOverBackdrop;
-    // Where the canvas may hold soft colours; none: nowhere.
+    // Where the canvas may hold soft colours; none: nowhere. And whether its stencil marks
+    // them.
     std::optional<PixelRect> canvasSoft;
+    bool canvasMarked = false;
     // The planets and draws of a pass over the whole canvas, kept while the planets are,
     // and of a part of it drawn again.
     PlanetList::Pass wholePass;
@@ -214,7 +219,7 @@ bool RendererState::build(std::string* error) {
         }
     }
     pointSizeLimit = largestPointSize();
-    if (!finishing.build(marksSoft, error))
+    if (!finishing.build(error))
         return false;
 
     instanceBuffer.create();
@@ -279,6 +284,10 @@ bool RendererState::patchPlanets(const Scene& scene, const ScreenFrame& frame) {
 }
 
 void RendererState::upload(const PlanetList::Pass& pass) {
+    if (pass.asListed) {
+        instanceBuffer.upload(planets.instances());
+        return;
+    }
     instanceBuffer.upload(pass.instances);
     pixelsBuffer.upload(pass.pixels);
 }
@@ -327,31 +336,53 @@ DrawnArea RendererState::drawPlanets(const CameraProjection& camera, int width, 
         bufferHoldsWholePass = true;
         canvasSoft = wholePass.soft;
     }
-    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT | GL_STENCIL_BUFFER_BIT);
+    // Planets drawn as listed are many small ones: marking costs more than it spares.
     const PlanetList::Pass& pass = part ? partPass : wholePass;
+    const bool marks = marksSoft && !pass.asListed;
+    canvasMarked = marks && (canvasMarked || !part);
+    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT | GL_STENCIL_BUFFER_BIT);
     std::size_t first = 0;
     for (const auto& [band, end] : pass.bands) {
         const std::optional<PixelRect> cut = overlapOf(band, part.value_or(tile));
         if (cut) {
             glEnable(GL_SCISSOR_TEST);
             glScissor(cut->x - tile.x, cut->y - tile.y, cut->width, cut->height);
-            drawInstances(pass.draws, first, end, uniforms);
+            // Planets drawn as listed are drawn over the whole area, cut by the scissor.
+            const std::optional<DrawnPixels> everywhere =
+                pass.asListed ? std::optional(DrawnPixels{static_cast<float>(band.x),
+                                                          static_cast<float>(band.y),
+                                                          static_cast<float>(band.x + band.width),
+                                                          static_cast<float>(band.y + band.height)})
+                              : std::nullopt;
+            drawInstances(pass.draws, first, end, everywhere, marks, uniforms);
         }
         first = end;
     }
     glDisable(GL_SCISSOR_TEST);
-    return {true, part};
+    return {true, part, marks};
 }
 
 void RendererState::drawInstances(const std::vector<PlanetDraw>& planetDraws, std::size_t first,
-                                  std::size_t end, const PlanetUniforms& uniforms) {
+                                  std::size_t end, const std::optional<DrawnPixels>& everywhere,
+                                  bool marks, const PlanetUniforms& uniforms) {
     if (first == end)
         return;
+    // The pixels each planet is drawn at come from its own box, or are one box for all.
+    for (const GlObject* vertices : {&quadVertices, &spriteVertices}) {
+        glBindVertexArray(vertices->id());
+        if (everywhere)
+            glDisableVertexAttribArray(kDrawnPixelsAttribute);
+        else
+            glEnableVertexAttribArray(kDrawnPixelsAttribute);
+    }
+    if (everywhere)
+        glVertexAttrib4f(kDrawnPixelsAttribute, everywhere->left, everywhere->bottom,
+                         everywhere->right, everywhere->top);
     glDepthFunc(GL_LESS);
     glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA); // the canvas holds premultiplied colour
     glDisable(GL_CULL_FACE);
     glEnable(GL_PROGRAM_POINT_SIZE);
-    if (marksSoft) {
+    if (marks) {
         // Each colour that passes the depth test leaves the shader's mark.
         glEnable(GL_STENCIL_TEST);
         glStencilFunc(GL_ALWAYS, 0, 0xFF);
@@ -426,7 +457,7 @@ void RendererState::pointAttributesAt(std::size_t first) {
     attribute(1, 4, sizeof(PlanetInstance), offsetof(PlanetInstance, color));
     attribute(2, 2, sizeof(PlanetInstance), offsetof(PlanetInstance, rampRow));
     glBindBuffer(GL_ARRAY_BUFFER, pixelsBuffer.id());
-    attribute(3, 4, sizeof(DrawnPixels), 0);
+    attribute(kDrawnPixelsAttribute, 4, sizeof(DrawnPixels), 0);
 }
 
 void RendererState::setBackdrop(const Image& image) {
@@ -455,10 +486,10 @@ bool RendererState::drawFrame(const Scene& scene, const CameraProjection& camera
         canvasSoft ? std::optional(local(*canvasSoft)) : std::nullopt;
     const PixelRect whole = local(tile);
     if (finishedOverBackdrop != overBackdrop)
-        finishing.finish(canvas, whole, soft, tile.width, tile.height, overBackdrop);
+        finishing.finish(canvas, whole, soft, tile.width, tile.height, overBackdrop, canvasMarked);
     else if (drawn.any)
         finishing.finish(canvas, local(drawn.part.value_or(tile)), soft, tile.width, tile.height,
-                         overBackdrop);
+                         overBackdrop, drawn.marked);
     finishedOverBackdrop = overBackdrop;
     return true;
 }
