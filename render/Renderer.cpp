@@ -547,8 +547,12 @@ std::optional<Image> RendererState::renderImage(const Scene& scene, const Camera
     }
     for (std::size_t done = 0; done < tiles.size(); ++done) {
         const PixelRect& tile = tiles[done];
-        if (!drawFrame(scene, camera, width, height, tile, false, error))
+        if (!drawFrame(scene, camera, width, height, tile, false, error)) {
+            // Say which picture the tile belongs to, whose size the person asked for.
+            if (error != nullptr && tiles.size() > 1)
+                *error += " (a tile of " + pictureText(width, height) + ")";
             return std::nullopt;
+        }
         glBindFramebuffer(GL_READ_FRAMEBUFFER, canvas.pictureFramebuffer());
         glPixelStorei(GL_PACK_ALIGNMENT, 1);
         glReadPixels(0, 0, tile.width, tile.height, GL_RGBA, GL_UNSIGNED_BYTE, tilePixels.data());

@@ -1,4 +1,5 @@
 #include "imageio/AtomicWrite.h"
+#include "imageio/ImageFile.h"
 #include "tests/imageio/SamplePicture.h"
 
 #include <QTemporaryDir>
@@ -80,18 +81,23 @@ TEST(AtomicWrite, ImpossiblePathsFailWithAReasonAndCreateNothing) {
     EXPECT_EQ(entriesIn(root), 2u);
 }
 
+// Bytes written at once, and a picture that Qt's writer streams into the file, alike.
 TEST(AtomicWrite, WriteThatRunsOutOfSpaceLeavesTheOldFile) {
     QTemporaryDir folder;
     const fs::path root = folder.path().toStdString();
-    const fs::path path = root / "picture.png";
+    const fs::path path = root / "picture.bmp";
     writePlain(path, "the previous picture");
     const std::vector<std::uint8_t> large(1 << 20, 7);
     std::string error;
+    std::string streamedError;
     {
         FileSizeLimit limit(64 * 1024);
         error = writeFileAtomically(path, large);
+        streamedError = writeImageFile(orrery::testing::samplePicture(512, 512), path.string(),
+                                       ExportFormat::bmp, 1.0f);
     }
     EXPECT_NE(error, "");
+    EXPECT_NE(streamedError, "");
     EXPECT_EQ(fileBytes(path), bytesOf("the previous picture"));
     EXPECT_EQ(entriesIn(root), 1u);
 }
