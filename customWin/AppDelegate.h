@@ -186,9 +186,10 @@ private:
     void updateTitle();
     void askToClearSystem();
     void removeAllPlanets();
+    void replacePlanets(SceneNodeBatch oldNodes, std::vector<PlanetRecord> records);
     void writePackage(const QString& path, bool saveAs, std::function<void()> then);
     void openProject2(const QString& path);
-    void openProject3(const QString& path, const OpenedProject& project);
+    void openProject3(const QString& path, OpenedProject& project, SceneNodeBatch planetNodes);
     void showOpenedCameraAndLight(const OpenedProject& project);
     void showFailure(const QString& message, const std::string& reason);
     void askToSaveChanges(std::function<void()> then);

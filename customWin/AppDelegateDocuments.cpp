@@ -9,6 +9,7 @@
 #include "customWin/CameraPopover.h"
 #include "customWin/CheckedQuietly.h"
 #include "customWin/FieldValidity.h"
+#include "customWin/FreeAway.h"
 #include "customWin/PackageDialogs.h"
 #include "customWin/PlanetPanel.h"
 #include "customWin/ProgressSheet.h"
@@ -37,6 +38,7 @@ struct WorkResult {
     bool ok = false;
     std::string error;
     OpenedProject project;
+    SceneNodeBatch planetNodes; // made on the worker from an opened package's planets
 };
 
 QString packageName(const std::string& path) {
@@ -108,12 +110,13 @@ void AppDelegate::createNewSystem2() {
 }
 
 void AppDelegate::removeAllPlanets() {
-    std::vector<std::string> identities;
-    identities.reserve(state_.planetArray.size());
-    for (const PlanetRecord& planet : state_.planetArray)
-        identities.push_back(planet.tsecs);
-    sceneview().scene().deletePlanets(identities);
-    state_.planetArray.clear();
+    replacePlanets(sceneview().scene().replacePlanets({}), {});
+}
+
+// The table's records replaced at once, and what the system held before (nodes already taken
+// out of the scene, and records) freed on a worker: 100,000 planets do not hold up the window.
+void AppDelegate::replacePlanets(SceneNodeBatch oldNodes, std::vector<PlanetRecord> records) {
+    freeAway(std::move(oldNodes), state_.planetArray.replaceAll(std::move(records)));
     reloadPlanets();
 }
 
@@ -205,12 +208,14 @@ void AppDelegate::openProject2(const QString& path) {
         [source] {
             WorkResult result;
             result.ok = readProjectPackage(source, result.project, result.error);
+            if (result.ok)
+                result.planetNodes = packagePlanetNodes(result.project.planets);
             return result;
         },
         [this, path](WorkResult& result) {
             loadMenuStatus();
             if (result.ok)
-                openProject3(path, result.project);
+                openProject3(path, result.project, std::move(result.planetNodes));
             else
                 showFailure(text("openFailedMsg"), result.error);
             validateExport();
@@ -220,7 +225,8 @@ void AppDelegate::openProject2(const QString& path) {
 // A size that passes the reading check is shown at its own size (scaled to fit where the
 // window cannot hold it); one that fails stays in its red fields, and the picture keeps the
 // size it had.
-void AppDelegate::openProject3(const QString& path, const OpenedProject& project) {
+void AppDelegate::openProject3(const QString& path, OpenedProject& project,
+                               SceneNodeBatch planetNodes) {
     const auto& settings = project.settings;
     DocumentSettings opened = editor_->document();
     opened.width = settings[setting::width];
@@ -233,14 +239,12 @@ void AppDelegate::openProject3(const QString& path, const OpenedProject& project
     markValid(header.widthField1(), project.checks.width);
     markValid(header.heightField1(), project.checks.height);
 
-    removeAllPlanets();
-    applyPackageToScene(sceneview().scene(), project);
+    SceneNodeBatch oldNodes =
+        applyPackageToScene(sceneview().scene(), project, std::move(planetNodes));
     showOpenedCameraAndLight(project);
     state_.lightColor = project.lightColor;
     popOver4_->colorWell4().setColor(state_.lightColor);
-    for (const PlanetRecord& planet : project.planets)
-        state_.planetArray.append(planet);
-    reloadPlanets();
+    replacePlanets(std::move(oldNodes), std::move(project.planets));
 
     state_.projectpath = path.toStdString();
     document_->opened(state_.projectpath);

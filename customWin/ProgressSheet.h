@@ -55,7 +55,8 @@ void runWithProgress(ProgressSheet* progress, QWidget& window, std::function<Res
     auto* watcher = new QFutureWatcher<Result>(progress);
     QObject::connect(watcher, &QFutureWatcher<Result>::finished, &window,
                      [watcher, progress, done = std::move(done)] {
-                         Result result = watcher->result();
+                         // Taken, not copied: a result may hold a whole system.
+                         Result result = watcher->future().takeResult();
                          progress->end();
                          done(result);
                      });

@@ -42,6 +42,8 @@ public:
 signals:
     void planetHit(const QString& tsecs);
     void planetMoved(const QString& tsecs, const QString& x, const QString& y, const QString& z);
+    // A whole frame is on the screen: a large redraw spread over several paints emits this
+    // after its last.
     void framePainted();
 
 protected:

@@ -1,5 +1,6 @@
 #include "render/Renderer.h"
 
+#include "render/CanvasStrips.h"
 #include "render/ColorSpace.h"
 #include "render/Framebuffers.h"
 #include "render/GlObject.h"
@@ -113,6 +114,8 @@ public:
     bool build(std::string* error);
     bool render(const Scene& scene, const CameraProjection& camera, GLuint target, int width,
                 int height, bool overBackdrop, std::string* error);
+    void spreadRedraws(std::size_t planetsPerFrame) { strips.setPlanetsPerFrame(planetsPerFrame); }
+    bool drawsMore() const { return !strips.empty(); }
     std::optional<Image> renderImage(const Scene& scene, const CameraProjection& camera, int width,
                                      int height, std::string* error, const PictureTiling& tiling);
     std::string description() const;
@@ -121,13 +124,14 @@ public:
 
 private:
     bool drawFrame(const Scene& scene, const CameraProjection& camera, int width, int height,
-                   const PixelRect& tile, bool overBackdrop, std::string* error);
+                   const PixelRect& tile, bool overBackdrop, bool spread, std::string* error);
     bool drewWithoutError(std::string* error);
     void refreshPlanets(const Scene& scene, const CameraProjection& camera, int width, int height);
     bool patchPlanets(const Scene& scene, const ScreenFrame& frame);
     void upload(const PlanetList::Pass& pass);
     DrawnArea drawPlanets(const CameraProjection& camera, int width, int height,
-                          const PixelRect& tile);
+                          const PixelRect& tile, bool spread);
+    DrawnArea clearForStrips(const std::optional<PixelRect>& part, const PixelRect& tile);
     void drawInstances(const std::vector<PlanetDraw>& planetDraws, std::size_t first,
                        std::size_t end, const std::optional<DrawnPixels>& everywhere, bool marks,
                        const PlanetUniforms& uniforms);
@@ -163,6 +167,8 @@ private:
     PlanetList planets;
     std::vector<PlanetDraw> draws;
     std::optional<PixelBox> changedArea;
+    // The parts of the canvas left for the frames to come, cleared until they are drawn.
+    CanvasStrips strips;
     // What the canvas shows was drawn with these; none when it shows nothing to keep.
     std::optional<PlanetUniforms> canvasUniforms;
     // Whether the canvas's picture is finished over the backdrop; none when it is not finished.
@@ -293,18 +299,27 @@ void RendererState::upload(const PlanetList::Pass& pass) {
 }
 
 DrawnArea RendererState::drawPlanets(const CameraProjection& camera, int width, int height,
-                                     const PixelRect& tile) {
+                                     const PixelRect& tile, bool spread) {
     const PlanetUniforms uniforms =
         planetUniforms(camera, light, width, height, tile, surfaces.layerWidth());
+    // A picture is drawn whole, strips left or not.
+    if (!spread && !strips.empty())
+        canvasUniforms.reset();
     // Drawn with other values, every pixel may differ; with the same, only where planets
-    // changed.
+    // changed, or the next strip left.
     std::optional<PixelRect> part;
     if (canvasUniforms == uniforms) {
-        if (!changedArea)
-            return {};
-        part = pixelsOf(*changedArea, width, height);
-        if (part)
-            part = overlapOf(*part, tile).value_or(PixelRect{tile.x, tile.y, 0, 0});
+        if (changedArea) {
+            part = pixelsOf(*changedArea, width, height);
+            if (part)
+                part = overlapOf(*part, tile).value_or(PixelRect{tile.x, tile.y, 0, 0});
+        } else {
+            part = strips.next();
+            if (!part)
+                return {};
+        }
+    } else {
+        strips.clear();
     }
     changedArea.reset();
     canvasUniforms = uniforms;
@@ -317,6 +332,8 @@ DrawnArea RendererState::drawPlanets(const CameraProjection& camera, int width, 
     glClearColor(0.0f, 0.0f, 0.0f, 0.0f);
     glClearDepth(1.0);
     glClearStencil(0);
+    if (spread && strips.split(part.value_or(tile), planets.instances().size(), height))
+        return clearForStrips(part, tile);
     const std::array<double, 16> projection = camera.matrix();
     const DepthFrame depthFrame{sceneFrame, projection[10], projection[14]};
     if (part) {
@@ -360,6 +377,22 @@ DrawnArea RendererState::drawPlanets(const CameraProjection& camera, int width, 
     }
     glDisable(GL_SCISSOR_TEST);
     return {true, part, marks};
+}
+
+// The area is cleared now, and drawn strip by strip in the frames to come: nothing of it is
+// soft, nor marked, until then.
+DrawnArea RendererState::clearForStrips(const std::optional<PixelRect>& part,
+                                        const PixelRect& tile) {
+    const PixelRect area = part.value_or(tile);
+    glEnable(GL_SCISSOR_TEST);
+    glScissor(area.x - tile.x, area.y - tile.y, area.width, area.height);
+    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT | GL_STENCIL_BUFFER_BIT);
+    glDisable(GL_SCISSOR_TEST);
+    if (!part) {
+        canvasSoft.reset();
+        canvasMarked = marksSoft;
+    }
+    return {true, part, marksSoft};
 }
 
 void RendererState::drawInstances(const std::vector<PlanetDraw>& planetDraws, std::size_t first,
@@ -466,7 +499,7 @@ void RendererState::setBackdrop(const Image& image) {
 }
 
 bool RendererState::drawFrame(const Scene& scene, const CameraProjection& camera, int width,
-                              int height, const PixelRect& tile, bool overBackdrop,
+                              int height, const PixelRect& tile, bool overBackdrop, bool spread,
                               std::string* error) {
     // Errors left over from whoever used the context before are not ours to report.
     while (glGetError() != GL_NO_ERROR) {
@@ -477,7 +510,7 @@ bool RendererState::drawFrame(const Scene& scene, const CameraProjection& camera
         return false;
     }
     refreshPlanets(scene, camera, width, height);
-    const DrawnArea drawn = drawPlanets(camera, width, height, tile);
+    const DrawnArea drawn = drawPlanets(camera, width, height, tile, spread);
     // The finishing works on the canvas's own pixels.
     const auto local = [&tile](const PixelRect& rect) {
         return PixelRect{rect.x - tile.x, rect.y - tile.y, rect.width, rect.height};
@@ -510,7 +543,7 @@ bool RendererState::drewWithoutError(std::string* error) {
 
 bool RendererState::render(const Scene& scene, const CameraProjection& camera, GLuint target,
                            int width, int height, bool overBackdrop, std::string* error) {
-    if (!drawFrame(scene, camera, width, height, PixelRect{0, 0, width, height}, overBackdrop,
+    if (!drawFrame(scene, camera, width, height, PixelRect{0, 0, width, height}, overBackdrop, true,
                    error))
         return false;
     glBindFramebuffer(GL_READ_FRAMEBUFFER, canvas.pictureFramebuffer());
@@ -547,7 +580,7 @@ std::optional<Image> RendererState::renderImage(const Scene& scene, const Camera
     }
     for (std::size_t done = 0; done < tiles.size(); ++done) {
         const PixelRect& tile = tiles[done];
-        if (!drawFrame(scene, camera, width, height, tile, false, error)) {
+        if (!drawFrame(scene, camera, width, height, tile, false, false, error)) {
             // Say which picture the tile belongs to, whose size the person asked for.
             if (error != nullptr && tiles.size() > 1)
                 *error += " (a tile of " + pictureText(width, height) + ")";
@@ -576,6 +609,14 @@ Renderer::Renderer(std::unique_ptr<render::RendererState> state) : state_(std::m
 
 void Renderer::setBackdrop(const Image& backdrop) {
     state_->setBackdrop(backdrop);
+}
+
+void Renderer::spreadRedraws(std::size_t planetsPerFrame) {
+    state_->spreadRedraws(planetsPerFrame);
+}
+
+bool Renderer::drawsMore() const {
+    return state_->drawsMore();
 }
 Renderer::~Renderer() = default;
 

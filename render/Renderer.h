@@ -6,6 +6,7 @@
 #include "core/styles/Image.h"
 #include "render/SurfaceSource.h"
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -66,6 +67,14 @@ public:
     // An empty image for none: render() then replaces what the target holds. Pictures
     // (renderImage) never have a backdrop.
     void setBackdrop(const Image& backdrop);
+
+    // Spreads a large redraw of render() over several calls, a strip of the picture each of
+    // about `planetsPerFrame` planets, so that a window stays responsive while 100,000
+    // planets are drawn afresh; 0 (the start) draws every frame whole. The strips not yet
+    // drawn show nothing. Pictures (renderImage) are always drawn whole.
+    void spreadRedraws(std::size_t planetsPerFrame);
+    // Whether render() left strips for the calls to come: call it again until false.
+    bool drawsMore() const;
 
     // The OpenGL renderer and what the renderer uses of it, for logs and benchmarks.
     std::string description() const;

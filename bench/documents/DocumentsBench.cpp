@@ -43,7 +43,8 @@ int main(int argc, char** argv) {
             "Documents benchmark: median (best) of a few runs in a freshly started window.\n"
             "request: the main thread's part before the progress sheet; apply: its part after\n"
             "the sheet; spinner: the sheet's frames (one every 80 ms while the main thread is\n"
-            "free); stall: the longest the main thread answered nothing (all in ms)\n");
+            "free); stall: the longest the main thread answered nothing, for Open until the\n"
+            "scene has painted the opened system whole (all in ms)\n");
         for (const int planets : {1000, 100000}) {
             const std::unique_ptr<FreshWindow> fresh = windowWith(planets);
             if (!fresh || !reportPackages(*fresh, planets))

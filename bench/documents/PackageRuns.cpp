@@ -39,21 +39,16 @@ std::optional<SheetWork> saveOver(window::AppDelegate& app) {
     return alertShows(app.window()) ? std::nullopt : work;
 }
 
-struct Opening {
-    SheetWork work;
-    double shownMs = 0.0; // until the scene has painted the opened system
-};
-
-std::optional<Opening> openPackage(window::AppDelegate& app, const QString& path, int planets) {
+// Open, from the request until the scene has painted the opened system whole.
+std::optional<SheetWork> openPackage(window::AppDelegate& app, const QString& path, int planets) {
     SheetWatch watch(app);
     Arrival shown(&app.sceneview(), &window::sceneView::framePainted,
                   [&] { return watch.finished(); });
-    const std::optional<SheetWork> work = watch.run([&] { app.openFiles({path}); });
-    const std::optional<double> shownMs = shown.millisecondsFrom(watch.started());
-    if (!work || !shownMs || alertShows(app.window()) ||
+    const std::optional<SheetWork> work = watch.run([&] { app.openFiles({path}); }, &shown);
+    if (!work || alertShows(app.window()) ||
         app.state().planetArray.size() != static_cast<std::size_t>(planets))
         return std::nullopt;
-    return Opening{*work, *shownMs};
+    return work;
 }
 
 // The core alone on the same system: the document built as Save builds it on the main
@@ -100,7 +95,7 @@ bool reportPackages(FreshWindow& fresh, int planets) {
     std::vector<double> shown, builds, writes, reads;
     for (int run = 0; run < kRuns; ++run) {
         const std::optional<SheetWork> saved = saveOver(app);
-        const std::optional<Opening> opened = openPackage(app, path, planets);
+        const std::optional<SheetWork> opened = openPackage(app, path, planets);
         const std::optional<CoreTimes> core =
             coreAlone(app, fresh.folder() + QStringLiteral("/Core%1.kvx").arg(run));
         if (!saved || !opened || !core) {
@@ -109,7 +104,7 @@ bool reportPackages(FreshWindow& fresh, int planets) {
             return false;
         }
         saves.push_back(*saved);
-        opens.push_back(opened->work);
+        opens.push_back(*opened);
         shown.push_back(opened->shownMs);
         builds.push_back(core->build);
         writes.push_back(core->write);

@@ -36,7 +36,7 @@ QDialog* SheetWatch::openedSheet() const {
     return nullptr;
 }
 
-std::optional<SheetWork> SheetWatch::run(const std::function<void()>& request) {
+std::optional<SheetWork> SheetWatch::run(const std::function<void()>& request, Arrival* shown) {
     qApp->installEventFilter(this);
     start_ = lastBeat_ = Clock::now();
     beat_.start();
@@ -49,13 +49,15 @@ std::optional<SheetWork> SheetWatch::run(const std::function<void()>& request) {
         Arrival applied(sheet, &QDialog::finished);
         ms = applied.millisecondsFrom(start_);
     }
+    const std::optional<double> shownMs =
+        ms && shown != nullptr ? shown->millisecondsFrom(start_) : ms;
     beat();
     beat_.stop();
     qApp->removeEventFilter(this);
-    if (!ms)
+    if (!ms || !shownMs)
         return std::nullopt;
     const double applyMs = *ms - millisecondsBetween(start_, *finishedAt_);
-    return SheetWork{*ms, requestMs, applyMs, spinnerFrames_, longestGapMs_};
+    return SheetWork{*ms, requestMs, applyMs, spinnerFrames_, longestGapMs_, *shownMs};
 }
 
 } // namespace orrery::bench

@@ -24,6 +24,7 @@ struct SheetWork {
     double applyMs = 0.0;        // after the sheet, applying the result on the main thread
     int spinnerFrames = 0;       // how often the sheet's spinner was painted
     double longestStallMs = 0.0; // the longest the main thread answered nothing
+    double shownMs = 0.0;        // until what the request was awaited for showed, when asked
 };
 
 // Watches the window while a request opens the progress sheet and the work behind it runs:
@@ -34,9 +35,10 @@ public:
     explicit SheetWatch(window::AppDelegate& app);
 
     // Runs `request`, which must open the progress sheet, then the event loop until the
-    // sheet has finished and its result has been applied. None when no sheet opened or the
-    // work did not end in time.
-    std::optional<SheetWork> run(const std::function<void()>& request);
+    // sheet has finished and its result has been applied, and with `shown` until that
+    // arrived too (the stall counts until then). None when no sheet opened or the work did
+    // not end in time.
+    std::optional<SheetWork> run(const std::function<void()>& request, Arrival* shown = nullptr);
     // When the request was made, once `run` has begun.
     Clock::time_point started() const { return start_; }
     // Whether the sheet has finished (its result may still be being applied).

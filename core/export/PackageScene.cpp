@@ -1,8 +1,10 @@
 #include "core/export/PackageScene.h"
 
 #include "core/model/TextNumber.h"
+#include "core/scene/PlanetNodes.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace orrery {
 
@@ -19,7 +21,17 @@ long packageBackground(const OpenedProject& project) {
     return static_cast<long>(integerValue(project.settings[setting::background]));
 }
 
-void applyPackageToScene(SceneView& view, const OpenedProject& project) {
+SceneNodeBatch packagePlanetNodes(const std::vector<PlanetRecord>& planets) {
+    SceneNodeBatch nodes;
+    for (const PlanetRecord& planet : planets)
+        nodes.append(makePlanetNode(planet.tsecs, planet.color, integerValue(planet.styleindex),
+                                    integerValue(planet.surfaceindex), planet.xvalue, planet.yvalue,
+                                    planet.zvalue, planet.radius));
+    return nodes;
+}
+
+SceneNodeBatch applyPackageToScene(SceneView& view, const OpenedProject& project,
+                                   SceneNodeBatch planets) {
     const auto& s = project.settings;
     if (project.checks.camera) {
         const std::size_t c = setting::cameraXFov;
@@ -32,21 +44,17 @@ void applyPackageToScene(SceneView& view, const OpenedProject& project) {
         view.updateLight(s[l], s[l + 1], s[l + 2]);
     }
     view.updateLightColor(project.lightColor);
-    for (const PlanetRecord& planet : project.planets)
-        view.createPlanet2(planet.tsecs, planet.color, integerValue(planet.styleindex),
-                           integerValue(planet.surfaceindex), planet.xvalue, planet.yvalue,
-                           planet.zvalue, planet.radius);
+    return view.replacePlanets(std::move(planets));
 }
 
 void loadPackageScene(SceneView& view, const OpenedProject& project) {
-    applyPackageToScene(view, project);
+    applyPackageToScene(view, project, packagePlanetNodes(project.planets));
     const DocumentSize size = packageDocumentSize(project);
     view.setViewSize(size.width, size.height);
 }
 
-ProjectDocument projectDocument(const SceneView& view, const PlanetList& planets,
-                                std::string width, std::string height, long background,
-                                Color lightColor) {
+ProjectDocument projectDocument(const SceneView& view, const PlanetList& planets, std::string width,
+                                std::string height, long background, Color lightColor) {
     ProjectDocument document;
     document.documentWidth = std::move(width);
     document.documentHeight = std::move(height);

@@ -23,18 +23,21 @@ DocumentSize packageDocumentSize(const OpenedProject& project);
 // The background when it passes its check, else the fresh window's transparent 0.
 long packageBackground(const OpenedProject& project);
 
+// One node per planet, as createPlanet2 builds it, apart from any scene: the window makes
+// them on the worker that reads the package. Opening does not hide planets whose state is
+// "0"; they show until their check box is next switched, and the export draws them too.
+SceneNodeBatch packagePlanetNodes(const std::vector<PlanetRecord>& planets);
 // What opening a package does to a scene: the camera when all five camera values pass, the
-// light position when all three pass, the light colour, and one node per planet built with
-// createPlanet2. Opening does not hide planets whose state is "0"; they show until their
-// check box is next switched, and the export draws them too.
-void applyPackageToScene(SceneView& view, const OpenedProject& project);
+// light position when all three pass, the light colour, and the planets replaced by
+// `planets` (packagePlanetNodes of the package's). Returns the planets taken away.
+SceneNodeBatch applyPackageToScene(SceneView& view, const OpenedProject& project,
+                                   SceneNodeBatch planets);
 // The same on a fresh scene view, which also takes the package's document size.
 void loadPackageScene(SceneView& view, const OpenedProject& project);
 
 // What saving writes for a system: the planets, the document size fields' texts, the
 // background, the scene's camera settings and light position, and the light colour.
-ProjectDocument projectDocument(const SceneView& view, const PlanetList& planets,
-                                std::string width, std::string height, long background,
-                                Color lightColor);
+ProjectDocument projectDocument(const SceneView& view, const PlanetList& planets, std::string width,
+                                std::string height, long background, Color lightColor);
 
 } // namespace orrery

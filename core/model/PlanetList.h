@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace orrery {
@@ -27,6 +28,11 @@ public:
     bool replace(std::size_t index, PlanetRecord record);
     bool remove(std::size_t index);
     void clear() { records_.clear(); }
+    // Every record at once; returns the records it replaced, for the caller to free where
+    // 100,000 of them do not hold up the window.
+    std::vector<PlanetRecord> replaceAll(std::vector<PlanetRecord> records) {
+        return std::exchange(records_, std::move(records));
+    }
 
     // The first record whose "tsecs" equals the text exactly (what a drag updates).
     std::optional<std::size_t> firstIndexOf(std::string_view tsecs) const;

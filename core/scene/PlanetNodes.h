@@ -2,8 +2,10 @@
 
 #include "core/model/Color.h"
 #include "core/scene/Material.h"
+#include "core/scene/SceneNode.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,5 +24,14 @@ std::string planetNodeName(std::string_view tsecs);
 // the sphere's circumference, as diffuse, and the surface image as emission.
 std::optional<Material> planetMaterial(Color color, std::int64_t styleIndex,
                                        std::int64_t surfaceIndex, float radius);
+
+// Texts become numbers through a single-precision conversion, then serve as doubles.
+double sceneNumber(std::string_view text);
+
+// A planet's node, a sphere at its position with its material, not yet in any scene.
+std::shared_ptr<SceneNode> makePlanetNode(std::string_view tsecs, Color color,
+                                          std::int64_t styleIndex, std::int64_t surfaceIndex,
+                                          std::string_view x, std::string_view y,
+                                          std::string_view z, std::string_view radius);
 
 } // namespace orrery

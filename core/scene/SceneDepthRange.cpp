@@ -21,29 +21,43 @@ DepthRange SceneDepthRange::of(const Scene& scene, Vec3 eye) {
     const auto changes = same ? scene.changesSince(revision_) : std::nullopt;
     if (changes) {
         // Each listed planet as it stands now; the log lists only children of the root.
+        const std::size_t keptNearest = nearest_.size();
+        const std::size_t keptFarthest = farthest_.size();
         for (const SceneChange& change : *changes) {
-            remove(change.key);
+            reaches_.erase(change.key);
             const auto node = change.node.lock();
             if (node && node->parent() == &root && !node->isHidden())
                 add(*node, root.position() + node->position());
         }
+        // Stale entries are dropped at the top; when they come to outnumber the planets, all.
+        if (nearest_.size() > 2 * reaches_.size() + 64) {
+            restartHeaps();
+        } else {
+            heapUp(nearest_, keptNearest, nearestOnTop);
+            heapUp(farthest_, keptFarthest, farthestOnTop);
+        }
     } else {
         reaches_.clear();
+        reaches_.reserve(root.childCount());
         nearest_.clear();
         farthest_.clear();
         eye_ = eye;
         rebuild(root, root.position());
+        std::make_heap(nearest_.begin(), nearest_.end(), nearestOnTop);
+        std::make_heap(farthest_.begin(), farthest_.end(), farthestOnTop);
     }
     kept_ = true;
     sceneId_ = scene.id();
     revision_ = scene.revision();
 
-    if (farthest_.empty() || !(*farthest_.rbegin() > 0.0) || !std::isfinite(*farthest_.rbegin()) ||
-        !std::isfinite(*nearest_.begin()))
+    const Entry* nearest = top(nearest_, nearestOnTop);
+    const Entry* farthest = top(farthest_, farthestOnTop);
+    if (farthest == nullptr || !(farthest->distance > 0.0) || !std::isfinite(farthest->distance) ||
+        !std::isfinite(nearest->distance))
         return DepthRange{};
-    const double zFar = *farthest_.rbegin() * (1.0 + kRangeMargin);
+    const double zFar = farthest->distance * (1.0 + kRangeMargin);
     const double zNear =
-        std::max(*nearest_.begin() * (1.0 - kRangeMargin), zFar * kMinNearFraction);
+        std::max(nearest->distance * (1.0 - kRangeMargin), zFar * kMinNearFraction);
     return DepthRange{zNear, zFar};
 }
 
@@ -64,21 +78,41 @@ void SceneDepthRange::add(const SceneNode& node, Vec3 world) {
     const double distance = eye_.z - world.z;
     if (!(distance + sphere->radius > 0.0))
         return;
-    const Reach reach{distance - sphere->radius, distance + sphere->radius};
+    const Reach reach{distance - sphere->radius, distance + sphere->radius, ++stamp_};
     if (std::isnan(reach.nearest) || std::isnan(reach.farthest)) // no place in an order
         return;
     reaches_[&node] = reach;
-    nearest_.insert(reach.nearest);
-    farthest_.insert(reach.farthest);
+    nearest_.push_back({reach.nearest, &node, reach.stamp});
+    farthest_.push_back({reach.farthest, &node, reach.stamp});
 }
 
-void SceneDepthRange::remove(const SceneNode* node) {
-    const auto found = reaches_.find(node);
-    if (found == reaches_.end())
-        return;
-    nearest_.erase(nearest_.find(found->second.nearest));
-    farthest_.erase(farthest_.find(found->second.farthest));
-    reaches_.erase(found);
+bool SceneDepthRange::stale(const Entry& entry) const {
+    const auto found = reaches_.find(entry.node);
+    return found == reaches_.end() || found->second.stamp != entry.stamp;
+}
+
+void SceneDepthRange::heapUp(std::vector<Entry>& heap, std::size_t from, Order order) {
+    for (std::size_t end = from + 1; end <= heap.size(); ++end)
+        std::push_heap(heap.begin(), heap.begin() + static_cast<std::ptrdiff_t>(end), order);
+}
+
+const SceneDepthRange::Entry* SceneDepthRange::top(std::vector<Entry>& heap, Order order) {
+    while (!heap.empty() && stale(heap.front())) {
+        std::pop_heap(heap.begin(), heap.end(), order);
+        heap.pop_back();
+    }
+    return heap.empty() ? nullptr : &heap.front();
+}
+
+void SceneDepthRange::restartHeaps() {
+    nearest_.clear();
+    farthest_.clear();
+    for (const auto& [node, reach] : reaches_) {
+        nearest_.push_back({reach.nearest, node, reach.stamp});
+        farthest_.push_back({reach.farthest, node, reach.stamp});
+    }
+    std::make_heap(nearest_.begin(), nearest_.end(), nearestOnTop);
+    std::make_heap(farthest_.begin(), farthest_.end(), farthestOnTop);
 }
 
 } // namespace orrery

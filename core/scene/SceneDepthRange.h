@@ -5,8 +5,8 @@
 #include "core/scene/Vec3.h"
 
 #include <cstdint>
-#include <set>
 #include <unordered_map>
+#include <vector>
 
 namespace orrery {
 
@@ -15,7 +15,9 @@ namespace orrery {
 // planet across the screen leaves it unchanged. Without any such sphere: 1 to 100.
 //
 // Kept up to date from the scene's change log: after a change of a few planets among
-// 100,000, only those are looked at again, not every node.
+// 100,000, only those are looked at again, not every node. The nearest and farthest reaches
+// are heaps whose entries go stale when their planet changes or goes, dropped when they come
+// to the top: a whole scene is taken in without an allocation per planet for its order.
 class SceneDepthRange {
 public:
     DepthRange of(const Scene& scene, Vec3 eye);
@@ -24,14 +26,33 @@ private:
     struct Reach {
         double nearest = 0.0; // distances from the eye along the view
         double farthest = 0.0;
+        std::uint64_t stamp = 0; // tells this reach from the planet's earlier ones
     };
+    struct Entry {
+        double distance = 0.0;
+        const SceneNode* node = nullptr;
+        std::uint64_t stamp = 0;
+    };
+    // Heap orders: a heap keeps on top what no other entry comes before.
+    using Order = bool (*)(const Entry&, const Entry&);
+    static bool nearestOnTop(const Entry& a, const Entry& b) { return a.distance > b.distance; }
+    static bool farthestOnTop(const Entry& a, const Entry& b) { return a.distance < b.distance; }
+
     void rebuild(const SceneNode& node, Vec3 origin);
+    // Notes the planet's reach and appends its entries, which the caller makes part of the heaps.
     void add(const SceneNode& node, Vec3 world);
-    void remove(const SceneNode* node);
+    bool stale(const Entry& entry) const;
+    // Makes the entries appended after the first `from` part of the heap.
+    static void heapUp(std::vector<Entry>& heap, std::size_t from, Order order);
+    // The heap's top, after dropping stale entries; none when it holds no planet.
+    const Entry* top(std::vector<Entry>& heap, Order order);
+    // The heaps made again from the reaches alone.
+    void restartHeaps();
 
     std::unordered_map<const SceneNode*, Reach> reaches_;
-    std::multiset<double> nearest_;
-    std::multiset<double> farthest_;
+    std::vector<Entry> nearest_;  // the least distance on top
+    std::vector<Entry> farthest_; // the greatest distance on top
+    std::uint64_t stamp_ = 0;
     bool kept_ = false;
     std::uint64_t sceneId_ = 0;
     std::uint64_t revision_ = 0;

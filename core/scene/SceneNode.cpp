@@ -103,6 +103,51 @@ void SceneNode::removeFromParentNode() {
     parent->touch(*this);
 }
 
+SceneNodeBatch SceneNode::exchangeChildren(SceneNodeBatch incoming,
+                                           const std::function<bool(const SceneNode&)>& keep) {
+    SceneNodeBatch outgoing;
+    outgoing.nodes_.splice(outgoing.nodes_.end(), children_);
+    outgoing.byName_.swap(childrenByName_);
+    std::vector<SceneNode*> kept;
+    for (auto place = outgoing.nodes_.begin(); place != outgoing.nodes_.end();) {
+        const auto next = std::next(place);
+        SceneNode* node = place->get();
+        if (keep(*node)) {
+            // Splicing keeps the node's place valid, now in this list.
+            children_.splice(children_.end(), outgoing.nodes_, place);
+            kept.push_back(node);
+        } else {
+            node->parent_ = nullptr;
+        }
+        place = next;
+    }
+    // The incoming index becomes this node's; the few kept children go back into it, ahead
+    // of the incoming ones, as their append order says.
+    childrenByName_.swap(incoming.byName_);
+    for (SceneNode* node : kept) {
+        unindex(outgoing.byName_, node);
+        indexChild(node);
+    }
+    for (auto place = incoming.nodes_.begin(); place != incoming.nodes_.end(); ++place) {
+        SceneNode* node = place->get();
+        node->parent_ = this;
+        node->placeInParent_ = place;
+        node->appendOrder_ = nextAppendOrder_++;
+    }
+    const bool changed = !incoming.nodes_.empty() || !outgoing.nodes_.empty();
+    children_.splice(children_.end(), incoming.nodes_);
+    if (changed)
+        touch();
+    return outgoing;
+}
+
+void SceneNodeBatch::append(std::shared_ptr<SceneNode> node) {
+    if (!node || node->parent_ != nullptr)
+        return;
+    byName_[node->name_].push_back(node.get());
+    nodes_.push_back(std::move(node));
+}
+
 std::vector<std::shared_ptr<SceneNode>> SceneNode::childNodesNamed(std::string_view name) const {
     std::vector<std::shared_ptr<SceneNode>> matches;
     const auto found = childrenByName_.find(name);
@@ -125,15 +170,16 @@ void SceneNode::indexChild(SceneNode* child) {
 }
 
 void SceneNode::unindexChild(SceneNode* child) {
-    const auto found = childrenByName_.find(child->name_);
-    if (found == childrenByName_.end())
+    unindex(childrenByName_, child);
+}
+
+void SceneNode::unindex(NameIndex& index, const SceneNode* node) {
+    const auto found = index.find(node->name_);
+    if (found == index.end())
         return;
-    auto& sameName = found->second;
-    const auto place = std::find(sameName.begin(), sameName.end(), child);
-    if (place != sameName.end())
-        sameName.erase(place);
-    if (sameName.empty())
-        childrenByName_.erase(found);
+    std::erase(found->second, node);
+    if (found->second.empty())
+        index.erase(found);
 }
 
 } // namespace orrery

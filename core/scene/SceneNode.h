@@ -6,6 +6,7 @@
 #include "core/scene/Vec3.h"
 
 #include <cstdint>
+#include <functional>
 #include <list>
 #include <memory>
 #include <optional>
@@ -15,6 +16,8 @@
 #include <vector>
 
 namespace orrery {
+
+class SceneNodeBatch;
 
 // A sphere around its node's position; the material list holds at most one material, and
 // none means the renderer's default (plain white, lit).
@@ -80,6 +83,12 @@ public:
     // Appends the node after the existing children, taking it away from any former parent.
     void addChildNode(std::shared_ptr<SceneNode> child);
     void removeFromParentNode();
+    // Replaces every child that `keep` does not keep by the batch's nodes, appended after the
+    // kept ones as one change, and returns the children taken away as a batch of detached
+    // nodes. It costs a short walk over both lists and no allocation per node, so that a
+    // system of 100,000 planets is exchanged at once, and freed wherever the batch goes.
+    SceneNodeBatch exchangeChildren(SceneNodeBatch incoming,
+                                    const std::function<bool(const SceneNode&)>& keep);
 
     const ChildList& children() const { return children_; }
     std::size_t childCount() const { return children_.size(); }
@@ -97,6 +106,7 @@ public:
 
 private:
     friend class Scene;
+    friend class SceneNodeBatch;
 
     SceneNode() = default;
     // Counts a change of `changed` (this node, or a child just added or taken away) here and
@@ -114,6 +124,7 @@ private:
     };
     using NameIndex =
         std::unordered_map<std::string, std::vector<SceneNode*>, NameHash, std::equal_to<>>;
+    static void unindex(NameIndex& index, const SceneNode* node);
 
     std::string name_;
     Vec3 position_;
@@ -132,6 +143,22 @@ private:
     NameIndex childrenByName_;
     std::uint64_t revision_ = 0;
     SceneChangeLog* changeLog_ = nullptr; // set on a scene's root only
+};
+
+// Detached nodes in order, indexed by name as a parent indexes its children: made away from
+// any scene (on a worker, say) and taken in by SceneNode::exchangeChildren in one step, or
+// taken out by it. A node's name is final once it is in a batch.
+class SceneNodeBatch {
+public:
+    // Does nothing with a node that has a parent.
+    void append(std::shared_ptr<SceneNode> node);
+    std::size_t size() const { return nodes_.size(); }
+    const SceneNode::ChildList& nodes() const { return nodes_; }
+
+private:
+    friend class SceneNode;
+    SceneNode::ChildList nodes_;
+    SceneNode::NameIndex byName_;
 };
 
 } // namespace orrery

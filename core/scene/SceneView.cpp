@@ -3,7 +3,6 @@
 #include "core/model/TextNumber.h"
 #include "core/scene/PlanetNodes.h"
 
-#include <unordered_set>
 #include <utility>
 
 namespace orrery {
@@ -13,11 +12,6 @@ constexpr double kStartFov = 45.0;
 constexpr Vec3 kCameraStart{0.0, 0.0, 500.0};
 constexpr Vec3 kLightStart{0.0, 0.0, 100.0};
 constexpr const char* kLightName = "light";
-
-// Texts become numbers through a single-precision conversion, then serve as doubles.
-double sceneNumber(std::string_view text) {
-    return static_cast<double>(floatValue(text));
-}
 
 std::shared_ptr<SceneNode> makeLightNode(Color color, Vec3 position) {
     auto node = SceneNode::create();
@@ -62,13 +56,8 @@ void SceneView::createPlanet(std::string_view tsecs, std::string_view x, std::st
 void SceneView::buildPlanetNode(std::string_view tsecs, Color color, std::int64_t styleIndex,
                                 std::int64_t surfaceIndex, std::string_view x, std::string_view y,
                                 std::string_view z, std::string_view radius) {
-    const float r = floatValue(radius);
-    auto node = SceneNode::create();
-    node->setSphere(Sphere{static_cast<double>(r), std::nullopt});
-    node->setName(planetNodeName(tsecs));
-    node->setPosition({sceneNumber(x), sceneNumber(y), sceneNumber(z)});
-    scene_.rootNode().addChildNode(node);
-    node->setMaterial(planetMaterial(color, styleIndex, surfaceIndex, r));
+    scene_.rootNode().addChildNode(
+        makePlanetNode(tsecs, color, styleIndex, surfaceIndex, x, y, z, radius));
     setNeedsDisplay();
 }
 
@@ -108,18 +97,13 @@ bool SceneView::hasPlanets() const {
     return false;
 }
 
-void SceneView::deletePlanets(const std::vector<std::string>& tsecsList) {
-    std::unordered_set<std::string> names;
-    for (const std::string& tsecs : tsecsList)
-        names.insert(planetNodeName(tsecs));
-    std::vector<std::shared_ptr<SceneNode>> doomed;
-    for (const auto& node : scene_.rootNode().children())
-        if (names.count(node->name()) != 0)
-            doomed.push_back(node);
-    for (const auto& node : doomed)
-        node->removeFromParentNode();
-    if (!doomed.empty())
-        setNeedsDisplay();
+SceneNodeBatch SceneView::replacePlanets(SceneNodeBatch planets) {
+    SceneNodeBatch old =
+        scene_.rootNode().exchangeChildren(std::move(planets), [this](const SceneNode& node) {
+            return &node == cameraNode_.get() || &node == lightNode_.get();
+        });
+    setNeedsDisplay();
+    return old;
 }
 
 void SceneView::updateCamera(double xFov, double yFov, double x, double y, double z,

@@ -85,9 +85,10 @@ public:
     void deletePlanet(std::string_view tsecs);
     // Whether any node besides the camera and the light is in the scene.
     bool hasPlanets() const;
-    // The same for many planets at once, in one pass over the scene: what clearing the
-    // system does, however many planets it holds.
-    void deletePlanets(const std::vector<std::string>& tsecsList);
+    // Replaces every planet by the batch's nodes (made with makePlanetNode) as one change and
+    // returns the planets taken away: what opening a package or New does, at a cost that
+    // does not grow with the planets, which are built and freed away from the window.
+    SceneNodeBatch replacePlanets(SceneNodeBatch planets);
 
     // Camera and light. The recorded field of view and flags are kept for the popover and
     // the project file only: the picture always uses the perspective set up at the start.

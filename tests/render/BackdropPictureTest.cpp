@@ -1,7 +1,5 @@
 #include "RenderTestSupport.h"
 
-#include <epoxy/gl.h>
-
 #include <functional>
 
 namespace orrery::testing {
@@ -9,40 +7,6 @@ namespace {
 
 constexpr int kWidth = 320;
 constexpr int kHeight = 200;
-
-// A framebuffer standing in for the window's.
-class Target {
-public:
-    Target() {
-        glGenRenderbuffers(1, &colour_);
-        glBindRenderbuffer(GL_RENDERBUFFER, colour_);
-        glRenderbufferStorage(GL_RENDERBUFFER, GL_RGBA8, kWidth, kHeight);
-        glGenFramebuffers(1, &framebuffer_);
-        glBindFramebuffer(GL_FRAMEBUFFER, framebuffer_);
-        glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, colour_);
-    }
-    ~Target() {
-        glDeleteFramebuffers(1, &framebuffer_);
-        glDeleteRenderbuffers(1, &colour_);
-    }
-    Target(const Target&) = delete;
-    Target& operator=(const Target&) = delete;
-
-    // The scene laid over the backdrop by `renderer`, bottom row first.
-    std::vector<std::uint8_t> draw(Renderer& renderer, const SceneView& view) {
-        std::string error;
-        EXPECT_TRUE(renderer.render(view, framebuffer_, kWidth, kHeight, &error)) << error;
-        std::vector<std::uint8_t> pixels(static_cast<std::size_t>(kWidth * kHeight * 4));
-        glBindFramebuffer(GL_READ_FRAMEBUFFER, framebuffer_);
-        glPixelStorei(GL_PACK_ALIGNMENT, 1);
-        glReadPixels(0, 0, kWidth, kHeight, GL_RGBA, GL_UNSIGNED_BYTE, pixels.data());
-        return pixels;
-    }
-
-private:
-    GLuint colour_ = 0;
-    GLuint framebuffer_ = 0;
-};
 
 Image stripes(int shift) {
     Image image(kWidth, kHeight);
@@ -68,7 +32,7 @@ TEST_F(BackdropPicture, EveryFrameIsTheOneDrawnAfresh) {
     view.setViewSize(kWidth, kHeight);
     view.createPlanet2("1", {0.2, 0.5, 0.9, 1.0}, 4, 0, "0", "0", "0", "40");
     view.createPlanet2("2", {0.9, 0.3, 0.1, 0.5}, 0, 0, "60", "20", "60", "20");
-    Target target;
+    Target target(kWidth, kHeight);
     Image backdrop = stripes(0);
     renderer->setBackdrop(backdrop);
     target.draw(*renderer, view);

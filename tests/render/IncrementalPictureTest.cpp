@@ -1,12 +1,52 @@
 #include "RenderTestSupport.h"
 
+#include <algorithm>
 #include <functional>
 #include <random>
 
 namespace orrery::testing {
 namespace {
 
-using IncrementalPicture = RenderTest;
+class IncrementalPicture : public RenderTest {
+protected:
+    // The picture that a renderer which has drawn nothing before makes of the scene.
+    Image drawnAfresh(const SceneView& view, int width, int height) {
+        std::string error;
+        const auto fresh = Renderer::create(
+            [this](const std::string& name) -> std::optional<Image> {
+                const auto found = surfaces.find(name);
+                return found == surfaces.end() ? std::nullopt : std::optional(found->second);
+            },
+            &error);
+        EXPECT_TRUE(fresh) << error;
+        std::optional<Image> picture =
+            fresh ? fresh->renderImage(view, width, height, &error) : std::nullopt;
+        EXPECT_TRUE(picture) << error;
+        return picture ? std::move(*picture) : Image();
+    }
+
+    void useSurfaces() {
+        surfaces["Surface001"] = solidImage(64, 32, {0, 90, 0, 255});
+        surfaces["Surface002"] = solidImage(64, 32, {90, 0, 0, 255});
+        surfaces["Surface003"] = solidImage(64, 32, {0, 0, 90, 255});
+    }
+};
+
+std::size_t differingBytes(const Image& a, const Image& b) {
+    std::size_t differing = a.pixels.size() == b.pixels.size() ? 0 : 1;
+    for (std::size_t i = 0; i < std::min(a.pixels.size(), b.pixels.size()); ++i)
+        differing += a.pixels[i] != b.pixels[i] ? 1 : 0;
+    return differing;
+}
+
+// A frame read from a framebuffer, bottom row first, as a picture, top row first.
+Image pictureOf(const std::vector<std::uint8_t>& frame, int width, int height) {
+    Image picture(width, height);
+    for (int row = 0; row < height; ++row)
+        std::copy_n(frame.begin() + static_cast<std::ptrdiff_t>(height - 1 - row) * width * 4,
+                    width * 4, picture.pixel(0, row));
+    return picture;
+}
 
 constexpr int kWidth = 480;
 constexpr int kHeight = 320;
@@ -34,9 +74,7 @@ void strewPlanets(SceneView& view) {
 // The renderer draws again only where planets changed: each picture after a change must be
 // exactly the one that a renderer which has drawn nothing before makes of the scene.
 TEST_F(IncrementalPicture, AfterEachChangeThePictureIsTheOneDrawnAfresh) {
-    surfaces["Surface001"] = solidImage(64, 32, {0, 90, 0, 255});
-    surfaces["Surface002"] = solidImage(64, 32, {90, 0, 0, 255});
-    surfaces["Surface003"] = solidImage(64, 32, {0, 0, 90, 255});
+    useSurfaces();
     SceneView view;
     view.setViewSize(kWidth, kHeight);
     strewPlanets(view);
@@ -71,21 +109,48 @@ TEST_F(IncrementalPicture, AfterEachChangeThePictureIsTheOneDrawnAfresh) {
     for (std::size_t i = 0; i < std::size(changes); ++i) {
         changes[i]();
         const Image patched = draw(view, kWidth, kHeight);
-        std::string error;
-        const auto fresh = Renderer::create(
-            [this](const std::string& name) -> std::optional<Image> {
-                const auto found = surfaces.find(name);
-                return found == surfaces.end() ? std::nullopt : std::optional(found->second);
-            },
-            &error);
-        ASSERT_TRUE(fresh) << error;
-        const auto afresh = fresh->renderImage(view, kWidth, kHeight, &error);
-        ASSERT_TRUE(afresh) << error;
-        std::size_t differing = 0;
-        for (std::size_t b = 0; b < patched.pixels.size(); ++b)
-            differing += patched.pixels[b] != afresh->pixels[b] ? 1 : 0;
-        EXPECT_EQ(differing, 0u) << "change " << i;
+        EXPECT_EQ(differingBytes(patched, drawnAfresh(view, kWidth, kHeight)), 0u)
+            << "change " << i;
     }
+}
+
+// The window spreads a large redraw over several frames, a strip each. Once the last strip is
+// drawn the frame is exactly the picture drawn at once, though a planet moved while strips
+// were left; and a light change meanwhile starts the strips over.
+TEST_F(IncrementalPicture, ARedrawSpreadOverFramesEndsInThePictureDrawnAtOnce) {
+    useSurfaces();
+    SceneView view;
+    view.setViewSize(kWidth, kHeight);
+    strewPlanets(view);
+    renderer->spreadRedraws(40);
+    Target target(kWidth, kHeight);
+    const auto finish = [&] {
+        std::vector<std::uint8_t> frame;
+        int frames = 0;
+        do
+            frame = target.draw(*renderer, view);
+        while (renderer->drawsMore() && ++frames < 100);
+        return frames;
+    };
+
+    target.draw(*renderer, view);
+    target.draw(*renderer, view);
+    EXPECT_TRUE(renderer->drawsMore());
+    view.updatePlanet("20", {1, 1, 0, 0.5}, 0, 1, "-30", "20", "100", "12");
+    EXPECT_GT(finish(), 2);
+    EXPECT_EQ(differingBytes(pictureOf(target.draw(*renderer, view), kWidth, kHeight),
+                             drawnAfresh(view, kWidth, kHeight)),
+              0u);
+
+    view.updateLight("100", "0", "300");
+    target.draw(*renderer, view);
+    EXPECT_TRUE(renderer->drawsMore());
+    target.draw(*renderer, view);
+    view.updateLight("-100", "50", "200");
+    finish();
+    EXPECT_EQ(differingBytes(pictureOf(target.draw(*renderer, view), kWidth, kHeight),
+                             drawnAfresh(view, kWidth, kHeight)),
+              0u);
 }
 
 } // namespace

@@ -11,6 +11,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace orrery::testing {
 
@@ -33,6 +34,24 @@ protected:
 
     std::unique_ptr<HeadlessContext> context;
     std::unique_ptr<Renderer> renderer;
+};
+
+// A framebuffer standing in for the window's.
+class Target {
+public:
+    Target(int width, int height);
+    ~Target();
+    Target(const Target&) = delete;
+    Target& operator=(const Target&) = delete;
+
+    // The frame `renderer` draws of the view, bottom row first.
+    std::vector<std::uint8_t> draw(Renderer& renderer, const SceneView& view);
+
+private:
+    int width_ = 0;
+    int height_ = 0;
+    unsigned colour_ = 0;
+    unsigned framebuffer_ = 0;
 };
 
 Rgba pixelAt(const Image& image, int x, int y); // y counts from the top row

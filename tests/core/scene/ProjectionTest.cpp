@@ -78,6 +78,12 @@ TEST(DepthRange, CoversEveryVisibleSphereInFrontOfTheEye) {
     // The spheres that set the range grow, shrink and go: the range follows.
     nearest->setSphere(Sphere{100, std::nullopt});
     EXPECT_LT(rangeOf(scene).zNear, range.zNear);
+    // Many changes of the nearest sphere, each looked at: the range drops what it has
+    // outgrown, however often that comes to the top.
+    for (int step = 0; step < 150; ++step) {
+        nearest->setPosition({0, 0, step % 2 == 0 ? 40.0 : -40.0});
+        rangeOf(scene);
+    }
     nearest->setHidden(true);
     EXPECT_GT(rangeOf(scene).zNear, range.zNear);
     (*std::next(scene.rootNode().children().begin()))->removeFromParentNode();

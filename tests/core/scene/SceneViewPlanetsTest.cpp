@@ -96,10 +96,39 @@ TEST(SceneViewPlanets, SameNameNodesAreAlwaysTreatedTogether) {
 
     view.deletePlanet("7");
     EXPECT_EQ(childNames(view), (std::vector<std::string>{"", "light", "planet77"}));
-    // Clearing many at once removes the same nodes and leaves camera and light.
-    view.createPlanet("7", "0", "0", "0", "24");
-    EXPECT_TRUE(view.hasPlanets());
-    view.deletePlanets({"77", "7", "light", ""});
+}
+
+// Opening and New exchange all planets at once: camera and light stay wherever they are, the
+// new nodes are found by name in batch order, and the old ones come back detached, free to be
+// put back (as an undo does) or freed elsewhere.
+TEST(SceneViewPlanets, ReplacingAllPlanetsKeepsCameraAndLightAndDetachesTheOld) {
+    SceneView view;
+    view.createPlanet("1", "0", "0", "0", "24");
+    view.updateLightColor(kRed); // the light now comes after the planet
+    view.createPlanet("2", "0", "0", "0", "24");
+    const std::uint64_t before = view.scene().revision();
+
+    SceneNodeBatch incoming;
+    for (const char* tsecs : {"5", "6", "5"})
+        incoming.append(makePlanetNode(tsecs, kRed, 0, 1, "1", "2", "3", "4"));
+    const SceneNodeBatch old = view.replacePlanets(std::move(incoming));
+
+    EXPECT_EQ(childNames(view),
+              (std::vector<std::string>{"", "light", "planet5", "planet6", "planet5"}));
+    const auto fives = view.scene().rootNode().childNodesNamed("planet5");
+    ASSERT_EQ(fives.size(), 2u);
+    EXPECT_LT(fives[0]->siblingOrder(), fives[1]->siblingOrder());
+    EXPECT_EQ(fives[0]->worldPosition(), (Vec3{1, 2, 3}));
+    EXPECT_FALSE(view.scene().changesSince(before)); // one change the log cannot name
+
+    ASSERT_EQ(old.size(), 2u);
+    for (const auto& node : old.nodes())
+        EXPECT_EQ(node->parent(), nullptr);
+    Scene other;
+    other.rootNode().addChildNode(old.nodes().front());
+    EXPECT_EQ(other.rootNode().childNodesNamed("planet1").size(), 1u);
+
+    EXPECT_EQ(view.replacePlanets({}).size(), 3u);
     EXPECT_EQ(childNames(view), (std::vector<std::string>{"", "light"}));
     EXPECT_FALSE(view.hasPlanets());
 }
