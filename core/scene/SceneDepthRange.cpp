@@ -24,10 +24,10 @@ DepthRange SceneDepthRange::of(const Scene& scene, Vec3 eye) {
         const std::size_t keptNearest = nearest_.size();
         const std::size_t keptFarthest = farthest_.size();
         for (const SceneChange& change : *changes) {
-            reaches_.erase(change.key);
+            forget(change.key);
             const auto node = change.node.lock();
             if (node && node->parent() == &root && !node->isHidden())
-                add(*node, root.position() + node->position());
+                add(*node, root.position() + node->position(), true);
         }
         // Stale entries are dropped at the top; when they come to outnumber the planets, all.
         if (nearest_.size() > 2 * reaches_.size() + 64) {
@@ -38,11 +38,12 @@ DepthRange SceneDepthRange::of(const Scene& scene, Vec3 eye) {
         }
     } else {
         reaches_.clear();
-        reaches_.reserve(root.childCount());
         nearest_.clear();
         farthest_.clear();
         eye_ = eye;
+        // Taken in unordered, then sorted once.
         rebuild(root, root.position());
+        std::sort(reaches_.begin(), reaches_.end(), byNode);
         std::make_heap(nearest_.begin(), nearest_.end(), nearestOnTop);
         std::make_heap(farthest_.begin(), farthest_.end(), farthestOnTop);
     }
@@ -66,12 +67,12 @@ void SceneDepthRange::rebuild(const SceneNode& node, Vec3 origin) {
         if (child->isHidden())
             continue;
         const Vec3 world = origin + child->position();
-        add(*child, world);
+        add(*child, world, false);
         rebuild(*child, world);
     }
 }
 
-void SceneDepthRange::add(const SceneNode& node, Vec3 world) {
+void SceneDepthRange::add(const SceneNode& node, Vec3 world, bool sorted) {
     const auto& sphere = node.sphere();
     if (!sphere || !(sphere->radius > 0.0))
         return;
@@ -81,14 +82,25 @@ void SceneDepthRange::add(const SceneNode& node, Vec3 world) {
     const Reach reach{distance - sphere->radius, distance + sphere->radius, ++stamp_};
     if (std::isnan(reach.nearest) || std::isnan(reach.farthest)) // no place in an order
         return;
-    reaches_[&node] = reach;
+    if (sorted)
+        reaches_.insert(std::lower_bound(reaches_.begin(), reaches_.end(), &node, nodeBefore),
+                        {&node, reach});
+    else
+        reaches_.emplace_back(&node, reach);
     nearest_.push_back({reach.nearest, &node, reach.stamp});
     farthest_.push_back({reach.farthest, &node, reach.stamp});
 }
 
+void SceneDepthRange::forget(const SceneNode* node) {
+    const auto found = std::lower_bound(reaches_.begin(), reaches_.end(), node, nodeBefore);
+    if (found != reaches_.end() && found->first == node)
+        reaches_.erase(found);
+}
+
 bool SceneDepthRange::stale(const Entry& entry) const {
-    const auto found = reaches_.find(entry.node);
-    return found == reaches_.end() || found->second.stamp != entry.stamp;
+    const auto found = std::lower_bound(reaches_.begin(), reaches_.end(), entry.node, nodeBefore);
+    return found == reaches_.end() || found->first != entry.node ||
+           found->second.stamp != entry.stamp;
 }
 
 void SceneDepthRange::heapUp(std::vector<Entry>& heap, std::size_t from, Order order) {

@@ -5,7 +5,8 @@
 #include "core/scene/Vec3.h"
 
 #include <cstdint>
-#include <unordered_map>
+#include <functional>
+#include <utility>
 #include <vector>
 
 namespace orrery {
@@ -38,9 +39,19 @@ private:
     static bool nearestOnTop(const Entry& a, const Entry& b) { return a.distance > b.distance; }
     static bool farthestOnTop(const Entry& a, const Entry& b) { return a.distance < b.distance; }
 
+    using NodeReach = std::pair<const SceneNode*, Reach>;
+    static bool byNode(const NodeReach& a, const NodeReach& b) {
+        return std::less<const SceneNode*>{}(a.first, b.first);
+    }
+    static bool nodeBefore(const NodeReach& a, const SceneNode* node) {
+        return std::less<const SceneNode*>{}(a.first, node);
+    }
+
     void rebuild(const SceneNode& node, Vec3 origin);
-    // Notes the planet's reach and appends its entries, which the caller makes part of the heaps.
-    void add(const SceneNode& node, Vec3 world);
+    // Notes the planet's reach, in its place when `sorted` (else at the end, for the caller to
+    // sort), and appends its entries, which the caller makes part of the heaps.
+    void add(const SceneNode& node, Vec3 world, bool sorted);
+    void forget(const SceneNode* node);
     bool stale(const Entry& entry) const;
     // Makes the entries appended after the first `from` part of the heap.
     static void heapUp(std::vector<Entry>& heap, std::size_t from, Order order);
@@ -49,7 +60,9 @@ private:
     // The heaps made again from the reaches alone.
     void restartHeaps();
 
-    std::unordered_map<const SceneNode*, Reach> reaches_;
+    // By node: a flat list sorted once for a whole scene, where a map would allocate for
+    // each of 100,000 planets.
+    std::vector<NodeReach> reaches_;
     std::vector<Entry> nearest_;  // the least distance on top
     std::vector<Entry> farthest_; // the greatest distance on top
     std::uint64_t stamp_ = 0;
