@@ -13,6 +13,7 @@
 #include "imageio/SurfaceLibrary.h"
 #include "render/HeadlessContext.h"
 #include "render/Renderer.h"
+#include "render/StandInFramebuffer.h"
 
 #include <epoxy/gl.h>
 
@@ -119,31 +120,11 @@ double screenCoverage(const orrery::SceneView& view) {
     return area / (static_cast<double>(kWidth) * kHeight);
 }
 
-// A renderer drawing into a framebuffer that stands in for the window's.
-struct Target {
-    GLuint colour = 0;
-    GLuint framebuffer = 0;
-
-    Target() {
-        glGenRenderbuffers(1, &colour);
-        glBindRenderbuffer(GL_RENDERBUFFER, colour);
-        glRenderbufferStorage(GL_RENDERBUFFER, GL_RGBA8, kWidth, kHeight);
-        glGenFramebuffers(1, &framebuffer);
-        glBindFramebuffer(GL_FRAMEBUFFER, framebuffer);
-        glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, colour);
-    }
-    ~Target() {
-        glDeleteFramebuffers(1, &framebuffer);
-        glDeleteRenderbuffers(1, &colour);
-    }
-    Target(const Target&) = delete;
-    Target& operator=(const Target&) = delete;
-};
-
 // Milliseconds of one finished frame.
-double frameMs(orrery::Renderer& renderer, const orrery::SceneView& view, const Target& target) {
+double frameMs(orrery::Renderer& renderer, const orrery::SceneView& view,
+               const orrery::render::StandInFramebuffer& target) {
     const auto start = Clock::now();
-    renderer.render(view, target.framebuffer, kWidth, kHeight);
+    renderer.render(view, target.id(), kWidth, kHeight);
     glFinish();
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
@@ -200,7 +181,7 @@ std::optional<Figures> measure(const std::function<RendererPtr()>& makeRenderer,
                                const orrery::SurfaceSource& surfaces, const Layout& layout,
                                bool quick, std::string& error) {
     const double seconds = quick ? 0.3 : 1.5;
-    const Target target;
+    const orrery::render::StandInFramebuffer target(kWidth, kHeight);
     resetPeakMemory();
     const RendererPtr renderer = makeRenderer();
     orrery::SceneView view;
@@ -228,9 +209,9 @@ std::optional<Figures> measure(const std::function<RendererPtr()>& makeRenderer,
     const orrery::ViewPoint grab = grabPoint(view);
     view.mouseDown(grab);
     repeatFor(seconds, [&](int round) {
-        const double floorMs = floor->drawMs(target.framebuffer);
+        const double floorMs = floor->drawMs(target.id());
         figures.floorMs.push_back(floorMs);
-        const double plainFloorMs = plainFloor ? plainFloor->drawMs(target.framebuffer) : 0.0;
+        const double plainFloorMs = plainFloor ? plainFloor->drawMs(target.id()) : 0.0;
         view.updateLight(round % 2 == 0 ? "1" : "0", "0", "100");
         const double fullMs = frameMs(*renderer, view, target);
         figures.full.add(fullMs, floorMs);

@@ -1,7 +1,5 @@
 #include "RenderTestSupport.h"
 
-#include <epoxy/gl.h>
-
 #include <cmath>
 #include <numbers>
 #include <optional>
@@ -34,28 +32,10 @@ Image RenderTest::draw(const SceneView& view, int width, int height) {
     return image ? std::move(*image) : Image();
 }
 
-Target::Target(int width, int height) : width_(width), height_(height) {
-    glGenRenderbuffers(1, &colour_);
-    glBindRenderbuffer(GL_RENDERBUFFER, colour_);
-    glRenderbufferStorage(GL_RENDERBUFFER, GL_RGBA8, width, height);
-    glGenFramebuffers(1, &framebuffer_);
-    glBindFramebuffer(GL_FRAMEBUFFER, framebuffer_);
-    glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, colour_);
-}
-
-Target::~Target() {
-    glDeleteFramebuffers(1, &framebuffer_);
-    glDeleteRenderbuffers(1, &colour_);
-}
-
 std::vector<std::uint8_t> Target::draw(Renderer& renderer, const SceneView& view) {
     std::string error;
-    EXPECT_TRUE(renderer.render(view, framebuffer_, width_, height_, &error)) << error;
-    std::vector<std::uint8_t> pixels(static_cast<std::size_t>(width_) * height_ * 4);
-    glBindFramebuffer(GL_READ_FRAMEBUFFER, framebuffer_);
-    glPixelStorei(GL_PACK_ALIGNMENT, 1);
-    glReadPixels(0, 0, width_, height_, GL_RGBA, GL_UNSIGNED_BYTE, pixels.data());
-    return pixels;
+    EXPECT_TRUE(renderer.render(view, framebuffer_.id(), width_, height_, &error)) << error;
+    return framebuffer_.pixels();
 }
 
 Rgba pixelAt(const Image& image, int x, int y) {

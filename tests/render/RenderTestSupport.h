@@ -4,6 +4,7 @@
 #include "core/styles/Image.h"
 #include "render/HeadlessContext.h"
 #include "render/Renderer.h"
+#include "render/StandInFramebuffer.h"
 
 #include <gtest/gtest.h>
 
@@ -39,19 +40,15 @@ protected:
 // A framebuffer standing in for the window's.
 class Target {
 public:
-    Target(int width, int height);
-    ~Target();
-    Target(const Target&) = delete;
-    Target& operator=(const Target&) = delete;
+    Target(int width, int height) : framebuffer_(width, height), width_(width), height_(height) {}
 
     // The frame `renderer` draws of the view, bottom row first.
     std::vector<std::uint8_t> draw(Renderer& renderer, const SceneView& view);
 
 private:
+    render::StandInFramebuffer framebuffer_;
     int width_ = 0;
     int height_ = 0;
-    unsigned colour_ = 0;
-    unsigned framebuffer_ = 0;
 };
 
 Rgba pixelAt(const Image& image, int x, int y); // y counts from the top row
