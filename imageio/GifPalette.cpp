@@ -84,7 +84,7 @@ void settleTransparency(const liq_palette& palette, const std::vector<std::uint8
 
 } // namespace
 
-std::optional<IndexedImage> quantizeForGif(const Image& image, std::string& error) {
+std::optional<IndexedImage> quantizeForGif(const Image& image, std::string& error, int speed) {
     bool anyTransparent = false;
     const std::vector<std::uint8_t> pixels = binaryAlphaCopy(image, anyTransparent);
 
@@ -93,6 +93,7 @@ std::optional<IndexedImage> quantizeForGif(const Image& image, std::string& erro
         error = "the colour quantiser could not start";
         return std::nullopt;
     }
+    liq_set_speed(attr.get(), speed);
     // Leave room to add a transparent entry ourselves should the quantiser not make one.
     liq_set_max_colors(attr.get(), anyTransparent ? 255 : 256);
     LiqPtr<liq_image> input(

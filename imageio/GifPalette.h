@@ -24,8 +24,14 @@ struct IndexedImage {
     std::optional<std::uint8_t> transparentIndex;
 };
 
+// libimagequant's speed from 1 (slowest, best) to 10: a still picture takes the library's own
+// default; the frames of an animation, each seen for a moment, a quicker search.
+inline constexpr int kStillQuantizeSpeed = 4;
+inline constexpr int kFrameQuantizeSpeed = 8;
+
 // Quantises with libimagequant (alpha-aware, dithered). Fails with a reason only when the
 // library does.
-std::optional<IndexedImage> quantizeForGif(const Image& image, std::string& error);
+std::optional<IndexedImage> quantizeForGif(const Image& image, std::string& error,
+                                           int speed = kStillQuantizeSpeed);
 
 } // namespace orrery::imageio
