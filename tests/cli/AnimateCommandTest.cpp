@@ -10,6 +10,7 @@
 
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 
 namespace orrery::testing {
 namespace {
@@ -51,7 +52,8 @@ w, h = im.size
 print(json.dumps({"frames": im.n_frames, "width": w, "height": h, "loop": im.info.get("loop"),
     "ms": total, "corner": rgba.getpixel((0, 0))[3], "middle": rgba.getpixel((w // 2, h // 2))[3]}))
 )";
-    return nlohmann::json::parse(outputOf("python3", {"-c", script, QString::fromStdString(file)}));
+    return nlohmann::json::parse(
+        outputOf("/usr/bin/python3", {"-c", script, QString::fromStdString(file)}));
 }
 
 // The mean difference of two pictures' samples.
