@@ -1,7 +1,8 @@
 #include "imageio/FrameSequence.h"
 
 #include "core/animate/FrameFiles.h"
-#include "imageio/ImageFile.h"
+#include "imageio/AtomicWrite.h"
+#include "imageio/QtImageEncoder.h"
 
 #include <filesystem>
 #include <vector>
@@ -23,7 +24,8 @@ public:
 
     std::string addFrame(const Image& frame) override {
         const fs::path file = folder_ / frameFileName(stem_, frame_++);
-        const std::string error = writeImageFile(frame, file.string(), ExportFormat::png, 1.0f);
+        const std::string error = writeFileAtomically(
+            file.string(), [&frame](QIODevice& device) { return writeFramePng(frame, device); });
         if (!error.empty())
             return file.string() + ": " + error;
         written_.push_back(file);

@@ -27,7 +27,7 @@ struct IndexedImage {
 // libimagequant's speed from 1 (slowest, best) to 10: a still picture takes the library's own
 // default; the frames of an animation, each seen for a moment, a quicker search.
 inline constexpr int kStillQuantizeSpeed = 4;
-inline constexpr int kFrameQuantizeSpeed = 8;
+inline constexpr int kFrameQuantizeSpeed = 10;
 
 // Quantises with libimagequant (alpha-aware, dithered). Fails with a reason only when the
 // library does.
