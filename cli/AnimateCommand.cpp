@@ -45,6 +45,7 @@ int animateCommand(const std::vector<std::string>& arguments, const Streams& io)
     job.settings.frames = animation.frames;
     job.settings.firstFrame = range.first;
     job.settings.compression = compressionFactor(animation.quality);
+    job.settings.loopPalette = animation.loopPalette;
     job.background = packageBackground(setup->project);
     job.includeBackground = animation.includeBackground;
 

@@ -9,8 +9,8 @@
 namespace orrery::cli {
 namespace {
 
-constexpr std::array<std::string_view, 7> kValueOptions{"-o",     "--frames",  "--fps",  "--scale",
-                                                        "--spin", "--quality", "--range"};
+constexpr std::array<std::string_view, 8> kValueOptions{
+    "-o", "--frames", "--fps", "--scale", "--spin", "--quality", "--range", "--gif-palette"};
 
 std::string refused(const std::string& rule, const std::string& value) {
     return rule + ", not \"" + value + "\"";
@@ -54,6 +54,12 @@ bool applyValue(const std::string& option, const std::string& value, AnimateOpti
             return false;
         }
         animation.quality = *quality;
+    } else if (option == "--gif-palette") {
+        if (value != "frame" && value != "loop") {
+            error = refused("--gif-palette is frame or loop", value);
+            return false;
+        }
+        animation.loopPalette = value == "loop";
     } else {
         rangeText = value;
     }

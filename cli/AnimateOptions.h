@@ -12,7 +12,8 @@ namespace orrery::cli {
 
 // What `orrery animate PACKAGE.kvx -o FILE [--frames N] [--fps F] [--scale S]
 // [--include-background] [--light-orbit] [--spin same|by-size] [--quality N]
-// [--range FIRST-LAST]` asks for; options may come in any order around the package.
+// [--gif-palette frame|loop] [--range FIRST-LAST]` asks for; options may come in any order around
+// the package.
 struct AnimateOptions {
     std::string package;
     std::string output;

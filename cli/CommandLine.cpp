@@ -20,6 +20,7 @@ constexpr std::string_view kUsage =
          [--light-orbit]                 the light circles the scene once a loop
          [--spin same|by-size]           every planet turns once, or the smaller ones faster
          [--quality N]                   WebP (100: lossless) and video quality (default 85)
+         [--gif-palette frame|loop]      one GIF palette a frame (default) or for the loop
          [--range FIRST-LAST]            only these frames of the loop, into a folder
   orrery --help | --version
 

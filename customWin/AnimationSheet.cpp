@@ -49,6 +49,7 @@ AnimationSheet::AnimationSheet(QWidget& window, const AnimationChoices& choices,
       frames_(named(new QSpinBox, "animationFramesField", this)),
       fps_(named(new QSpinBox, "animationFpsField", this)),
       spin_(named(new QComboBox, "animationSpinPopup", this)),
+      palette_(named(new QComboBox, "animationPalettePopup", this)),
       lightOrbit_(named(new QCheckBox(text("animationLightOrbit")), "animationOrbitButton", this)),
       include_(
           named(new QCheckBox(text("exportIncludeBackground")), "animationIncludeButton", this)),
@@ -63,6 +64,7 @@ AnimationSheet::AnimationSheet(QWidget& window, const AnimationChoices& choices,
     for (const char* key : kFormatKeys)
         format_->addItem(text(key));
     spin_->addItems({text("animationSpinSame"), text("animationSpinBySize")});
+    palette_->addItems({text("animationPaletteFrame"), text("animationPaletteLoop")});
     frames_->setRange(kFewestFrames, kMostFrames);
     fps_->setRange(kLowestFps, kHighestFps);
     scale_->setRange(0.1, 8.0);
@@ -75,6 +77,7 @@ AnimationSheet::AnimationSheet(QWidget& window, const AnimationChoices& choices,
     frames_->setValue(o.frames);
     fps_->setValue(o.fps);
     spin_->setCurrentIndex(o.spin == SpinMode::bySize ? 1 : 0);
+    palette_->setCurrentIndex(o.loopPalette ? 1 : 0);
     lightOrbit_->setChecked(o.lightOrbit);
     include_->setEnabled(include.enabled);
     include_->setChecked(include.enabled && o.includeBackground);
@@ -94,9 +97,11 @@ AnimationSheet::AnimationSheet(QWidget& window, const AnimationChoices& choices,
     form->addRow(QString(), include_);
     row("animationScaleLabel", scale_);
     form->addRow(text("animationQualityLabel"), quality_);
+    row("animationPaletteLabel", palette_);
     quality_->slider().setAccessibleName(text("animationQualityLabel"));
     nameChoices(*format_, text("animationFormatLabel"));
     nameChoices(*spin_, text("animationSpinLabel"));
+    nameChoices(*palette_, text("animationPaletteLabel"));
 
     auto* exportButton = named(new QPushButton(text("animationExport")), "sheetButton1000", this);
     auto* cancelButton = named(new QPushButton(text("animationCancel")), "sheetButton1001", this);
@@ -139,6 +144,7 @@ AnimationChoices AnimationSheet::choices() const {
     c.options.includeBackground = include_->isChecked();
     c.options.scale = scale_->value();
     c.options.quality = quality_->slider().value();
+    c.options.loopPalette = palette_->currentIndex() == 1;
     return c;
 }
 
@@ -146,6 +152,7 @@ void AnimationSheet::choicesChanged() {
     const AnimationChoices c = choices();
     const AnimationFormatInfo& info = animationFormatInfo(c.format);
     quality_->setEnabled(info.usesQuality);
+    palette_->setEnabled(c.format == AnimationFormat::gif);
     preview_->showLoop(scene_, c.options, background_, info.keepsAlpha);
 }
 

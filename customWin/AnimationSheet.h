@@ -42,6 +42,7 @@ private:
     QSpinBox* frames_;
     QSpinBox* fps_;
     QComboBox* spin_;
+    QComboBox* palette_;
     QCheckBox* lightOrbit_;
     QCheckBox* include_;
     QDoubleSpinBox* scale_;

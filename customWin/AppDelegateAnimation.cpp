@@ -96,6 +96,7 @@ void AppDelegate::exportAnimation(const QString& path, const AnimationChoices& c
     job.settings.fps = options.fps;
     job.settings.frames = options.frames;
     job.settings.compression = compressionFactor(options.quality);
+    job.settings.loopPalette = options.loopPalette;
     job.background = state_.currentBackground;
     job.includeBackground = options.includeBackground;
 

@@ -3,7 +3,7 @@
 #include "core/animate/FrameTiming.h"
 #include "imageio/GifEncoder.h"
 #include "imageio/GifPalette.h"
-#include "imageio/PendingFile.h"
+#include "imageio/PendingWriter.h"
 
 #include <gif_lib.h>
 
@@ -30,7 +30,9 @@ bool putLoopForever(GifFileType* gif) {
 class AnimatedGif final : public AnimationWriter {
 public:
     AnimatedGif(std::unique_ptr<PendingFile> file, const AnimationSettings& settings)
-        : file_(std::move(file)), settings_(settings) {}
+        : file_(std::move(file)), settings_(settings),
+          loopPalette_(settings.loopPalette ? std::make_unique<LoopPalette>(kStillQuantizeSpeed)
+                                            : nullptr) {}
     ~AnimatedGif() override { abandon(); }
 
     std::string start() {
@@ -47,10 +49,14 @@ public:
         return {};
     }
 
+    bool samplesFirst() const override { return loopPalette_ != nullptr; }
+    std::string sample(const Image& frame) override { return loopPalette_->add(frame); }
+
     std::string addFrame(const Image& frame) override {
         std::string error;
         const std::optional<IndexedImage> indexed =
-            quantizeForGif(frame, error, kFrameQuantizeSpeed);
+            loopPalette_ ? loopPalette_->remap(frame, error)
+                         : quantizeForGif(frame, error, kFrameQuantizeSpeed);
         if (!indexed)
             return error;
         GraphicsControlBlock control{};
@@ -94,6 +100,7 @@ public:
 private:
     std::unique_ptr<PendingFile> file_;
     AnimationSettings settings_;
+    std::unique_ptr<LoopPalette> loopPalette_;
     GifFileType* gif_ = nullptr;
     int frame_ = 0;
 };
@@ -106,14 +113,7 @@ beginAnimatedGif(const std::string& path, const AnimationSettings& settings, std
         error = "a GIF picture is at most 65535 pixels wide and high";
         return nullptr;
     }
-    std::unique_ptr<PendingFile> file = PendingFile::create(path, error);
-    if (!file)
-        return nullptr;
-    auto writer = std::make_unique<AnimatedGif>(std::move(file), settings);
-    error = writer->start();
-    if (!error.empty())
-        return nullptr;
-    return writer;
+    return startPendingWriter<AnimatedGif>(path, error, settings);
 }
 
 } // namespace orrery::imageio

@@ -1,7 +1,7 @@
 #include "imageio/AnimatedWebp.h"
 
 #include "core/animate/FrameTiming.h"
-#include "imageio/PendingFile.h"
+#include "imageio/PendingWriter.h"
 
 #include <webp/encode.h>
 #include <webp/mux.h>
@@ -99,14 +99,7 @@ beginAnimatedWebp(const std::string& path, const AnimationSettings& settings, st
         error = "a WebP picture is at most 16383 pixels wide and high";
         return nullptr;
     }
-    std::unique_ptr<PendingFile> file = PendingFile::create(path, error);
-    if (!file)
-        return nullptr;
-    auto writer = std::make_unique<AnimatedWebp>(std::move(file), settings);
-    error = writer->start();
-    if (!error.empty())
-        return nullptr;
-    return writer;
+    return startPendingWriter<AnimatedWebp>(path, error, settings);
 }
 
 } // namespace orrery::imageio

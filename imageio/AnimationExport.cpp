@@ -11,11 +11,17 @@ AnimationResult exportAnimation(const AnimationJob& job, const FrameSource& fram
     if (!writer)
         return result;
     const bool keepsAlpha = animationFormatInfo(job.format).keepsAlpha;
-    const FrameConsumer consume = [&](Image frame) {
-        return writer->addFrame(exportAnimationFrame(std::move(frame), job.background,
-                                                     job.includeBackground, keepsAlpha));
+    const auto finished = [&](Image frame) {
+        return exportAnimationFrame(std::move(frame), job.background, job.includeBackground,
+                                    keepsAlpha);
     };
-    const PipelineOutcome outcome = frames(consume);
+    PipelineOutcome outcome;
+    // Frames are the same picture every time they are drawn: a writer that samples them first
+    // sees exactly the frames it then writes.
+    if (writer->samplesFirst())
+        outcome = frames([&](Image frame) { return writer->sample(finished(std::move(frame))); });
+    if (outcome.ok())
+        outcome = frames([&](Image frame) { return writer->addFrame(finished(std::move(frame))); });
     if (!outcome.ok()) {
         writer->abandon();
         result.error = outcome.error;

@@ -16,6 +16,7 @@ struct AnimationSettings {
     int frames = 48;           // in the whole loop
     int firstFrame = 0;        // the loop's number of the first frame handed in (frame folders)
     float compression = 0.85f; // 0 to 1: the quality of lossy WebP and of video; 1 is lossless WebP
+    bool loopPalette = false;  // GIF: one palette for the whole loop, not one a frame
 };
 
 // A turntable written as a stream: begun by beginAnimation, then one frame after another,
@@ -26,6 +27,10 @@ class AnimationWriter {
 public:
     virtual ~AnimationWriter() = default;
     virtual std::string addFrame(const Image& frame) = 0;
+    // A writer that must see every frame before it writes the first (a GIF with one palette
+    // for the loop) says so; it is handed each frame to sample, then each again to add.
+    virtual bool samplesFirst() const { return false; }
+    virtual std::string sample(const Image&) { return {}; }
     virtual std::string finish() = 0;
     virtual void abandon() = 0;
 };

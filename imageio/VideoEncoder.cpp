@@ -1,6 +1,6 @@
 #include "imageio/VideoEncoder.h"
 
-#include "imageio/PendingFile.h"
+#include "imageio/PendingWriter.h"
 
 #include <cmath>
 
@@ -191,14 +191,7 @@ std::unique_ptr<AnimationWriter> beginVideo(VideoKind kind, const std::string& p
                                             const AnimationSettings& settings, std::string& error) {
     // The libraries' own chatter would break the one-line-per-failure rule of the command line.
     av_log_set_level(AV_LOG_ERROR);
-    std::unique_ptr<PendingFile> file = PendingFile::create(path, error);
-    if (!file)
-        return nullptr;
-    auto writer = std::make_unique<VideoEncoder>(std::move(file), kind, settings);
-    error = writer->start();
-    if (!error.empty())
-        return nullptr;
-    return writer;
+    return startPendingWriter<VideoEncoder>(path, error, kind, settings);
 }
 
 } // namespace orrery::imageio

@@ -25,6 +25,9 @@ struct AnimationOptions {
     double scale = 1.0;
     bool includeBackground = false;
     int quality = 85; // 0 to 100: lossy WebP and video; 100 makes WebP lossless
+    // GIF: one palette for the whole loop (steady colours; every frame is drawn twice, once
+    // to count its colours) rather than one for each frame.
+    bool loopPalette = false;
     friend bool operator==(const AnimationOptions&, const AnimationOptions&) = default;
 };
 

@@ -9,7 +9,18 @@ namespace orrery {
 namespace {
 
 constexpr std::size_t kFirstRow = 4; // "Value05"
-enum Row : std::size_t { format, frames, fps, spin, orbit, background, quality, scale, count };
+enum Row : std::size_t {
+    format,
+    frames,
+    fps,
+    spin,
+    orbit,
+    background,
+    quality,
+    scale,
+    palette,
+    count
+};
 constexpr int kFormatCount = 6;
 
 std::string valueAt(const std::vector<std::string>& preferences, Row row) {
@@ -44,6 +55,7 @@ AnimationChoices storedAnimationChoices(const std::vector<std::string>& preferen
     o.spin = valueAt(preferences, spin) == "1" ? SpinMode::bySize : SpinMode::same;
     o.lightOrbit = valueAt(preferences, orbit) == "1";
     o.includeBackground = valueAt(preferences, background) == "1";
+    o.loopPalette = valueAt(preferences, palette) == "1";
     if (const auto stored = numberWithin(valueAt(preferences, quality), 1, 101))
         o.quality = *stored - 1;
     const std::optional<double> storedScale = wholeNumber<double>(valueAt(preferences, scale));
@@ -63,6 +75,7 @@ std::vector<PreferenceRow> animationPreferenceRows(const AnimationChoices& choic
         o.includeBackground ? "1" : "0",
         std::to_string(o.quality + 1),
         scaleText(o.scale),
+        o.loopPalette ? "1" : "0",
     };
     std::vector<PreferenceRow> rows;
     for (std::size_t row = 0; row < count; ++row) {

@@ -8,7 +8,7 @@
 #include <vector>
 
 // The animation sheet remembers its choices in spare rows of table Preferences, "Value05" to
-// "Value12", which are created with "0" like every row: "0" (or anything unusable) reads as
+// "Value13", which are created with "0" like every row: "0" (or anything unusable) reads as
 // the choice's default. The format is stored as its number from 1, the quality as its value
 // plus 1, so that a quality of 0 stays distinct from "not chosen".
 namespace orrery {

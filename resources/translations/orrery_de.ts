@@ -1383,5 +1383,20 @@
         <extracomment>Alert after a failed animation export.</extracomment>
         <translation>Die Animation konnte nicht exportiert werden.</translation>
     </message>
+    <message id="animationPaletteLabel">
+        <source>GIF colours:</source>
+        <extracomment>Animation sheet: how GIF frames get their palettes.</extracomment>
+        <translation>GIF-Farben:</translation>
+    </message>
+    <message id="animationPaletteFrame">
+        <source>One palette for each frame</source>
+        <extracomment>GIF palette choice: each frame its own 256 colours.</extracomment>
+        <translation>Eine Palette je Bild</translation>
+    </message>
+    <message id="animationPaletteLoop">
+        <source>One palette for the whole loop</source>
+        <extracomment>GIF palette choice: the same 256 colours in every frame (steadier, slower).</extracomment>
+        <translation>Eine Palette für den ganzen Umlauf</translation>
+    </message>
 </context>
 </TS>

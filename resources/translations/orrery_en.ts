@@ -1383,5 +1383,20 @@
         <extracomment>Alert after a failed animation export.</extracomment>
         <translation>The animation could not be exported.</translation>
     </message>
+    <message id="animationPaletteLabel">
+        <source>GIF colours:</source>
+        <extracomment>Animation sheet: how GIF frames get their palettes.</extracomment>
+        <translation>GIF colours:</translation>
+    </message>
+    <message id="animationPaletteFrame">
+        <source>One palette for each frame</source>
+        <extracomment>GIF palette choice: each frame its own 256 colours.</extracomment>
+        <translation>One palette for each frame</translation>
+    </message>
+    <message id="animationPaletteLoop">
+        <source>One palette for the whole loop</source>
+        <extracomment>GIF palette choice: the same 256 colours in every frame (steadier, slower).</extracomment>
+        <translation>One palette for the whole loop</translation>
+    </message>
 </context>
 </TS>

@@ -39,6 +39,25 @@ nlohmann::json probed(const std::string& file) {
 // middle.
 nlohmann::json pillowRead(const std::string& file) {
     const char* script = R"(import json, sys
+def colourTables(name):
+    """The distinct colour tables of a GIF's frames, read block by block."""
+    d = open(name, "rb").read()
+    if d[:3] != b"GIF":
+        return set()
+    i, tables = 13 + (3 << ((d[10] & 7) + 1) if d[10] & 0x80 else 0), set()
+    while i < len(d) and d[i] in (0x21, 0x2C):
+        if d[i] == 0x2C:
+            flags, i = d[i + 9], i + 10
+            if flags & 0x80:
+                tables.add(d[i:i + (3 << ((flags & 7) + 1))])
+                i += 3 << ((flags & 7) + 1)
+            i += 1  # the LZW code size
+        else:
+            i += 2
+        while d[i]:
+            i += d[i] + 1
+        i += 1
+    return tables
 from PIL import Image
 im = Image.open(sys.argv[1])
 total = 0
@@ -49,7 +68,7 @@ for i in range(im.n_frames):
 im.seek(0)
 rgba = im.convert("RGBA")
 w, h = im.size
-print(json.dumps({"frames": im.n_frames, "width": w, "height": h, "loop": im.info.get("loop"),
+print(json.dumps({"frames": im.n_frames, "width": w, "height": h, "loop": im.info.get("loop"), "palettes": len(colourTables(sys.argv[1])),
     "ms": total, "corner": rgba.getpixel((0, 0))[3], "middle": rgba.getpixel((w // 2, h // 2))[3]}))
 )";
     return nlohmann::json::parse(
@@ -86,12 +105,16 @@ protected:
 
 TEST_F(Animate, IndependentReadersFindTheFramesSizeRateAndAlpha) {
     animate("spin.gif", {"--frames", "8", "--fps", "12"});
+    animate("steady.gif", {"--frames", "8", "--fps", "12", "--gif-palette", "loop"});
     animate("spin.webp", {"--frames", "8", "--fps", "12", "--quality", "60"});
     animate("spin.webm", {"--frames", "8", "--fps", "12"});
     animate("spin.mp4", {"--frames", "8", "--fps", "12", "--include-background"});
 
     // 8 frames at 12 a second last 667 ms; GIF counts in hundredths.
-    for (const char* name : {"spin.gif", "spin.webp"}) {
+    // Each frame has its own palette, or all share the loop's one.
+    EXPECT_GT(pillowRead(path("spin.gif"))["palettes"], 1);
+    EXPECT_EQ(pillowRead(path("steady.gif"))["palettes"], 1);
+    for (const char* name : {"spin.gif", "steady.gif", "spin.webp"}) {
         const nlohmann::json read = pillowRead(path(name));
         EXPECT_EQ(read["frames"], 8) << name;
         EXPECT_EQ(read["width"], 160) << name;
@@ -178,9 +201,10 @@ TEST_F(Animate, LoopClosesRangesJoinAndTheSheetHoldsTheFrames) {
 
 TEST_F(Animate, BadOptionsAreRefusedInOneLineAndWriteNothing) {
     const std::vector<std::vector<std::string>> cases{
-        {"--frames", "1"},  {"--frames", "721"}, {"--frames", "ten"},  {"--fps", "0"},
-        {"--fps", "61"},    {"--spin", "fast"},  {"--quality", "101"}, {"--scale", "0"},
-        {"--range", "5-4"}, {"--range", "1-49"}, {"--loop"},           {"--frames"},
+        {"--frames", "1"},  {"--frames", "721"}, {"--frames", "ten"},      {"--fps", "0"},
+        {"--fps", "61"},    {"--spin", "fast"},  {"--quality", "101"},     {"--scale", "0"},
+        {"--range", "5-4"}, {"--range", "1-49"}, {"--gif-palette", "all"}, {"--loop"},
+        {"--frames"},
     };
     for (const std::vector<std::string>& options : cases) {
         std::vector<std::string> arguments{"animate", system_, "-o", path("out/")};

@@ -12,7 +12,7 @@ TEST(AnimationPreferences, FreshRowsGiveTheDefaultsAndChoicesComeBack) {
 
     AnimationChoices chosen;
     chosen.format = AnimationFormat::frames;
-    chosen.options = {720, 60, SpinMode::bySize, true, 0.5, true, 0};
+    chosen.options = {720, 60, SpinMode::bySize, true, 0.5, true, 0, true};
     std::vector<std::string> list = fresh;
     for (const PreferenceRow& row : animationPreferenceRows(chosen)) {
         // The field names the list position, and only spare rows are touched.
