@@ -1261,7 +1261,7 @@
     <message id="animationFormatLabel">
         <source>Format:</source>
         <extracomment>Animation sheet: label of the format pop-up.</extracomment>
-        <translation>Dateiformat:</translation>
+        <translation>Format:</translation>
     </message>
     <message id="animationFormatGif">
         <source>Animated GIF</source>
