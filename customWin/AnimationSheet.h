@@ -33,7 +33,6 @@ public:
                    std::function<void(const std::optional<AnimationChoices>&)> answered);
 
     AnimationChoices choices() const;
-    AnimationPreview& preview() { return *preview_; }
 
 private:
     void choicesChanged();

@@ -24,8 +24,4 @@ std::optional<SpinMode> spinModeNamed(std::string_view name) {
     return std::nullopt;
 }
 
-std::string_view spinModeName(SpinMode mode) {
-    return mode == SpinMode::same ? "same" : "by-size";
-}
-
 } // namespace orrery

@@ -35,8 +35,7 @@ struct AnimationOptions {
 std::string frameCountProblem(int frames);
 std::string fpsProblem(int fps);
 
-// "same" or "by-size"; none for anything else.
+// "same" or "by-size", as the command line names them; none for anything else.
 std::optional<SpinMode> spinModeNamed(std::string_view name);
-std::string_view spinModeName(SpinMode mode);
 
 } // namespace orrery
