@@ -13,10 +13,20 @@ constexpr std::string_view kUsage =
          [--include-background]          lay the picture over the background colour
          [--quality N]                   JPEG / JPEG 2000 compression 0-100 (default 85)
   orrery convert IN OUT                  .json -> .kvx or .kvx -> .json
+  orrery animate PACKAGE.kvx -o FILE     the system turning, one loop, without a display
+         [--frames N]                    frames in the loop, 2-720 (default 48)
+         [--fps F]                       frames per second, 1-60 (default 24)
+         [--scale S] [--include-background]
+         [--light-orbit]                 the light circles the scene once a loop
+         [--spin same|by-size]           every planet turns once, or the smaller ones faster
+         [--quality N]                   WebP (100: lossless) and video quality (default 85)
+         [--gif-palette frame|loop]      one GIF palette a frame (default) or for the loop
+         [--range FIRST-LAST]            only these frames of the loop, into a folder
   orrery --help | --version
 
 The picture type of render follows FILE's extension: .bmp .gif .jpg .jpeg .jp2 .png .tif
-.tiff. Exit status: 0 done; 1 bad usage; 2 input missing or invalid; 3 output cannot be
+.tiff; animate writes .gif .webp .webm .mp4, .png for a sprite sheet with its .json atlas,
+or a folder of PNG frames for a FILE ending in /. Exit status: 0 done; 1 bad usage; 2 input missing or invalid; 3 output cannot be
 written.
 )";
 
@@ -26,7 +36,7 @@ bool isCommandLine(const std::vector<std::string>& arguments) {
     if (arguments.empty())
         return false;
     const std::string& first = arguments.front();
-    return first == "info" || first == "render" || first == "convert" ||
+    return first == "info" || first == "render" || first == "convert" || first == "animate" ||
            (first.size() > 1 && first.front() == '-');
 }
 
@@ -39,6 +49,8 @@ int runCommandLine(const std::vector<std::string>& arguments, const Streams& io)
         return renderCommand(rest, io);
     if (verb == "convert")
         return convertCommand(rest, io);
+    if (verb == "animate")
+        return animateCommand(rest, io);
     if (verb == "--help" || verb == "-h") {
         io.out << kUsage;
         return kDone;

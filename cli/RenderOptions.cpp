@@ -1,20 +1,10 @@
 #include "cli/RenderOptions.h"
 
-#include <charconv>
+#include "core/model/WholeNumber.h"
+
 #include <cmath>
 
 namespace orrery::cli {
-namespace {
-
-// The whole text must be the number: "2x", " 2" and "" are refused.
-template <typename Number> std::optional<Number> wholeNumber(const std::string& text) {
-    Number value{};
-    const char* end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, value);
-    if (text.empty() || error != std::errc() || stop != end)
-        return std::nullopt;
-    return value;
-}
 
 std::optional<double> parseScale(const std::string& text) {
     const std::optional<double> scale = wholeNumber<double>(text);
@@ -30,6 +20,8 @@ std::optional<int> parseQuality(const std::string& text) {
     return quality;
 }
 
+namespace {
+
 // -o FILE, --scale S or --quality N.
 bool applyValue(const std::string& option, const std::string& value, RenderOptions& options,
                 std::string& error) {
@@ -38,14 +30,14 @@ bool applyValue(const std::string& option, const std::string& value, RenderOptio
     } else if (option == "--scale") {
         const std::optional<double> scale = parseScale(value);
         if (!scale) {
-            error = "--scale needs a number above 0 and at most 8, not \"" + value + "\"";
+            error = kScaleRule + ", not \"" + value + "\"";
             return false;
         }
         options.scale = *scale;
     } else {
         const std::optional<int> quality = parseQuality(value);
         if (!quality) {
-            error = "--quality needs a whole number from 0 to 100, not \"" + value + "\"";
+            error = kQualityRule + ", not \"" + value + "\"";
             return false;
         }
         options.quality = *quality;

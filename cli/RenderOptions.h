@@ -25,6 +25,12 @@ struct RenderOptions {
 std::optional<RenderOptions> parseRenderOptions(const std::vector<std::string>& arguments,
                                                 std::string& error);
 
+// A scale above 0 and at most 8; a quality from 0 to 100. None for any other text.
+std::optional<double> parseScale(const std::string& text);
+std::optional<int> parseQuality(const std::string& text);
+inline const std::string kScaleRule = "--scale needs a number above 0 and at most 8";
+inline const std::string kQualityRule = "--quality needs a whole number from 0 to 100";
+
 // The pixel size of a side of the document at a scale, rounded to the nearest pixel.
 int scaledSide(int side, double scale);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/animate/AnimationPreferences.h"
 #include "core/app/AppState.h"
 #include "core/app/TourPages.h"
 #include "core/edit/DocumentState.h"
@@ -133,6 +134,7 @@ public:
 
     // Export and printing (AppDelegateExport.cpp, AppDelegatePrint.cpp).
     void FileExport1();
+    void FileExportAnimation();
     void printPlain();
     void pageSetup();
     QPrinter& printer();
@@ -199,6 +201,11 @@ private:
     void FileExport2(bool withBackground);
     void exportPicture(const QString& path, ExportFormat format, bool withBackground,
                        float compression);
+    // Export Animation (AppDelegateAnimation.cpp). The scene as a copy of its own, sized as
+    // the document, for a worker thread to draw.
+    std::shared_ptr<SceneView> sceneForExport();
+    void chooseAnimationFile(const AnimationChoices& choices);
+    void exportAnimation(const QString& path, const AnimationChoices& choices);
 
     // Camera and light.
     bool markCameraFields();

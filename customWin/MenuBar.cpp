@@ -39,6 +39,11 @@ void buildFileMenu(QMenuBar& bar, MenuItems& m) {
     m.fileSaveAs = addItem(*m.fileMenu, "fileSaveAs", QKeySequence(QStringLiteral("Ctrl+Shift+S")));
     m.fileMenu->addSeparator();
     m.fileExport = addItem(*m.fileMenu, "fileExport", QKeySequence(QStringLiteral("Ctrl+E")));
+    m.fileExportAnimation =
+        addItem(*m.fileMenu, "fileExportAnimation", QKeySequence(QStringLiteral("Ctrl+Shift+E")));
+    m.fileExportAnimation->setEnabled(m.fileExport->isEnabled());
+    QObject::connect(m.fileExport, &QAction::enabledChanged, m.fileExportAnimation,
+                     &QAction::setEnabled);
     m.fileMenu->addSeparator();
     m.filePrintsetup = addItem(*m.fileMenu, "filePrintsetup");
     m.filePrint = addItem(*m.fileMenu, "filePrint", QKeySequence::Print);
@@ -196,6 +201,7 @@ void makeNSMenu(const MenuItems& m, const QString& appName) {
         {m.fileSave, "makeMenuFileSave"},
         {m.fileSaveAs, "makeMenuFileSaveAs"},
         {m.fileExport, "makeMenuFileExport"},
+        {m.fileExportAnimation, "makeMenuFileExportAnimation"},
         {m.filePrintsetup, "makeMenuFilePrintsetup"},
         {m.filePrint, "makeMenuFilePrint"},
         {m.editUndo, "makeMenuEditUndo"},

@@ -33,6 +33,7 @@ struct MenuItems {
     QAction* fileSave = nullptr;
     QAction* fileSaveAs = nullptr;
     QAction* fileExport = nullptr;
+    QAction* fileExportAnimation = nullptr; // enabled whenever fileExport is
     QAction* filePrintsetup = nullptr;
     QAction* filePrint = nullptr;
 

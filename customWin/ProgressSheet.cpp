@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QProgressBar>
+#include <QPushButton>
 
 namespace orrery::window {
 namespace {
@@ -81,6 +82,28 @@ void ProgressSheet::setProgress(int done, int total) {
     bar_->setRange(0, total);
     bar_->setValue(done);
     bar_->show();
+}
+
+void ProgressSheet::offerCancel(const QString& buttonText, std::function<void()> cancel) {
+    setFixedSize(400, 170);
+    detail_ = new QLabel(this);
+    detail_->setObjectName(QStringLiteral("progressDetail"));
+    detail_->setGeometry(80, 104, 240, 20);
+    detail_->setAlignment(Qt::AlignHCenter);
+    auto* button = new QPushButton(buttonText, this);
+    button->setObjectName(QStringLiteral("progressCancel"));
+    button->setGeometry(150, 130, 100, 28);
+    connect(button, &QPushButton::clicked, this, [button, cancel = std::move(cancel)] {
+        button->setEnabled(false);
+        cancel();
+    });
+    detail_->show();
+    button->show();
+}
+
+void ProgressSheet::setDetail(const QString& detail) {
+    if (detail_ != nullptr)
+        detail_->setText(detail);
 }
 
 void ProgressSheet::end() {

@@ -40,11 +40,16 @@ public:
     // How much of the work is done. Work that comes in several steps (a picture drawn in
     // tiles) takes more than a moment: a bar shows it.
     void setProgress(int done, int total);
+    // Long work that can stop half way: a line under the bar says how far it is, and a
+    // Cancel button (named "progressCancel") calls `cancel` once and greys out.
+    void offerCancel(const QString& buttonText, std::function<void()> cancel);
+    void setDetail(const QString& detail);
 
 private:
     Spinner* spinner_;
     QLabel* label_;
     QProgressBar* bar_;
+    QLabel* detail_ = nullptr;
 };
 
 // Runs `work` on a worker thread while the progress sheet, already begun, turns on the

@@ -7,23 +7,14 @@
 #include <cstring>
 
 namespace orrery::imageio {
-namespace {
 
-constexpr int kMaxGifSide = 65535;
-
-int appendToBuffer(GifFileType* gif, const GifByteType* data, int length) {
-    auto* bytes = static_cast<std::vector<std::uint8_t>*>(gif->UserData);
-    bytes->insert(bytes->end(), data, data + length);
-    return length;
-}
-
-std::string gifError(int code) {
+std::string gifErrorText(int code) {
     const char* text = GifErrorString(code);
     return std::string("the GIF writer failed: ") + (text ? text : "unknown error");
 }
 
 // giflib wants a colour map whose size is a power of two; the unused tail stays black.
-ColorMapObject* makeColorMap(const std::vector<PaletteColor>& palette) {
+ColorMapObject* makeGifColorMap(const std::vector<PaletteColor>& palette) {
     const int size = 1 << GifBitSize(static_cast<int>(palette.size()));
     ColorMapObject* map = GifMakeMapObject(size, nullptr);
     if (map == nullptr)
@@ -37,17 +28,37 @@ ColorMapObject* makeColorMap(const std::vector<PaletteColor>& palette) {
     return map;
 }
 
+std::string putGifRows(GifFileType* gif, const std::vector<std::uint8_t>& indices, int width,
+                       int height) {
+    std::vector<GifPixelType> row(static_cast<std::size_t>(width));
+    for (int y = 0; y < height; ++y) {
+        std::memcpy(row.data(), indices.data() + static_cast<std::size_t>(y) * row.size(),
+                    row.size());
+        if (EGifPutLine(gif, row.data(), width) == GIF_ERROR)
+            return gifErrorText(gif->Error);
+    }
+    return {};
+}
+
+namespace {
+
+int appendToBuffer(GifFileType* gif, const GifByteType* data, int length) {
+    auto* bytes = static_cast<std::vector<std::uint8_t>*>(gif->UserData);
+    bytes->insert(bytes->end(), data, data + length);
+    return length;
+}
+
 // Writes the whole file; returns an empty text on success. The caller closes the file.
 std::string writeGif(GifFileType* gif, const IndexedImage& indexed, int width, int height) {
     // The transparent index needs the GIF89a header and its graphics-control block.
     EGifSetGifVersion(gif, true);
-    ColorMapObject* map = makeColorMap(indexed.palette);
+    ColorMapObject* map = makeGifColorMap(indexed.palette);
     if (map == nullptr)
         return "out of memory for the GIF palette";
     const int screenStatus = EGifPutScreenDesc(gif, width, height, map->BitsPerPixel, 0, map);
     GifFreeMapObject(map);
     if (screenStatus == GIF_ERROR)
-        return gifError(gif->Error);
+        return gifErrorText(gif->Error);
 
     GraphicsControlBlock control{};
     control.DisposalMode = DISPOSAL_UNSPECIFIED;
@@ -59,16 +70,9 @@ std::string writeGif(GifFileType* gif, const IndexedImage& indexed, int width, i
     if (EGifPutExtension(gif, GRAPHICS_EXT_FUNC_CODE, static_cast<int>(extensionLength),
                          extension) == GIF_ERROR ||
         EGifPutImageDesc(gif, 0, 0, width, height, false, nullptr) == GIF_ERROR)
-        return gifError(gif->Error);
+        return gifErrorText(gif->Error);
 
-    std::vector<GifPixelType> row(static_cast<std::size_t>(width));
-    for (int y = 0; y < height; ++y) {
-        std::memcpy(row.data(), indexed.indices.data() + static_cast<std::size_t>(y) * row.size(),
-                    row.size());
-        if (EGifPutLine(gif, row.data(), width) == GIF_ERROR)
-            return gifError(gif->Error);
-    }
-    return {};
+    return putGifRows(gif, indexed.indices, width, height);
 }
 
 } // namespace
@@ -88,12 +92,12 @@ EncodedImage encodeGif(const Image& image) {
     int openError = 0;
     GifFileType* gif = EGifOpen(&bytes, appendToBuffer, &openError);
     if (gif == nullptr)
-        return EncodedImage::failure(gifError(openError));
+        return EncodedImage::failure(gifErrorText(openError));
     error = writeGif(gif, *indexed, image.width, image.height);
     int closeError = 0;
     // EGifCloseFile frees the handle even when it reports an error.
     if (EGifCloseFile(gif, &closeError) == GIF_ERROR && error.empty())
-        error = gifError(closeError);
+        error = gifErrorText(closeError);
     if (!error.empty())
         return EncodedImage::failure(error);
     return {std::move(bytes), {}};

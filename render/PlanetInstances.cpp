@@ -32,6 +32,7 @@ std::optional<PlanetInstance> planetInstance(const Sphere& sphere, Vec3 center,
     instance.radius = static_cast<float>(sphere.radius);
     instance.rampRow = -1.0f;
     instance.surfaceLayer = -1.0f;
+    instance.surfaceTurn = static_cast<float>(sphere.turn);
     if (!sphere.material) {
         setColor(instance, kWhite);
         return instance;

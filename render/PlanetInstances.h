@@ -12,15 +12,16 @@
 
 namespace orrery::render {
 
-// What the GPU gets per planet: 40 bytes, whatever the radius.
+// What the GPU gets per planet: 44 bytes, whatever the radius.
 struct PlanetInstance {
     float center[3]; // relative to the eye, so that large coordinates keep their precision
     float radius;
     float color[4];     // linear diffuse colour, straight alpha; used when rampRow < 0
     float rampRow;      // row of the gradient ramp texture, or -1
     float surfaceLayer; // layer of the surface texture array, or -1 for no emission
+    float surfaceTurn;  // how far the surface has turned west to east, in whole turns
 };
-static_assert(sizeof(PlanetInstance) == 40);
+static_assert(sizeof(PlanetInstance) == 44);
 
 // Maps a surface image name to its texture layer, -1 when there is no such image; none when
 // the layer cannot be had without a pass over the whole scene.

@@ -17,7 +17,7 @@ namespace orrery::render {
 constexpr const char* kPlanetVertexShader = R"(
 layout(location = 0) in vec4 centerRadius;
 layout(location = 1) in vec4 diffuseColor;
-layout(location = 2) in vec2 layers;
+layout(location = 2) in vec3 layers; // gradient row, surface layer, surface turn
 layout(location = 3) in vec4 drawnPixels; // the box of pixels to draw: left, bottom, right, top
 
 uniform mat4 projection;
@@ -29,7 +29,7 @@ uniform vec2 ndcToRay;
 flat out vec3 vCenter;
 flat out float vRadius;
 flat out vec4 vColor;
-flat out vec2 vLayers;
+flat out vec3 vLayers;
 
 #ifdef SPRITE
 uniform float surfaceWidth; // texels of the surface layers' largest level
@@ -130,7 +130,7 @@ uniform sampler2DArray surfaces;
 flat in vec3 vCenter;
 flat in float vRadius;
 flat in vec4 vColor; // linear
-flat in vec2 vLayers;
+flat in vec3 vLayers;
 #ifdef SPRITE
 flat in float vLevel; // the surface level for tiny sprites
 #endif
@@ -199,8 +199,12 @@ void main() {
 #endif
     }
     if (vLayers.y >= 0.0) {
-        float u = atan(normal.x, normal.z) / (2.0 * kPi) + 0.5;
+        // A surface turned west to east shows at each point what lay that far west of it.
+        // The texture repeats around the equator, so u may leave 0 to 1 here.
+        float u = atan(normal.x, normal.z) / (2.0 * kPi) + 0.5 - vLayers.z;
 #ifdef TINY
+        if (vLayers.z != 0.0)
+            u = fract(u);
         // The one texel under the pixel, at the level where texels are pixel sized: a few
         // pixels across, a planet shows nothing that filtering would change.
         ivec2 size = textureSize(surfaces, int(vLevel)).xy;

@@ -488,7 +488,7 @@ void RendererState::pointAttributesAt(std::size_t first) {
     glBindBuffer(GL_ARRAY_BUFFER, instanceBuffer.id());
     attribute(0, 4, sizeof(PlanetInstance), offsetof(PlanetInstance, center));
     attribute(1, 4, sizeof(PlanetInstance), offsetof(PlanetInstance, color));
-    attribute(2, 2, sizeof(PlanetInstance), offsetof(PlanetInstance, rampRow));
+    attribute(2, 3, sizeof(PlanetInstance), offsetof(PlanetInstance, rampRow));
     glBindBuffer(GL_ARRAY_BUFFER, pixelsBuffer.id());
     attribute(kDrawnPixelsAttribute, 4, sizeof(DrawnPixels), 0);
 }

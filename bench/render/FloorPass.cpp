@@ -63,7 +63,7 @@ std::unique_ptr<FloorPass> FloorPass::create(const SceneView& view, int width, i
     };
     attribute(0, 4, offsetof(render::PlanetInstance, center));
     attribute(1, 4, offsetof(render::PlanetInstance, color));
-    attribute(2, 2, offsetof(render::PlanetInstance, rampRow));
+    attribute(2, 3, offsetof(render::PlanetInstance, rampRow));
     glBindVertexArray(0);
 
     const render::PlanetUniforms uniforms = render::planetUniforms(

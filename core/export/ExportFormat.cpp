@@ -40,15 +40,20 @@ std::optional<ExportFormat> formatForNumber(long number) {
     return formatForRow(number - 1);
 }
 
-std::optional<ExportFormat> formatForPath(std::string_view path) {
+std::string lowercaseExtension(std::string_view path) {
     const std::size_t slash = path.find_last_of('/');
     const std::string_view name = slash == std::string_view::npos ? path : path.substr(slash + 1);
     const std::size_t dot = name.find_last_of('.');
     if (dot == std::string_view::npos || dot == 0)
-        return std::nullopt;
+        return {};
     std::string extension(name.substr(dot + 1));
     std::transform(extension.begin(), extension.end(), extension.begin(),
                    [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return extension;
+}
+
+std::optional<ExportFormat> formatForPath(std::string_view path) {
+    const std::string extension = lowercaseExtension(path);
     const auto* match =
         std::find_if(kExtensions.begin(), kExtensions.end(),
                      [&](const ExtensionName& e) { return e.extension == extension; });

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace orrery {
@@ -40,6 +41,10 @@ std::optional<ExportFormat> formatForNumber(long number);
 inline int numberOf(ExportFormat format) {
     return rowOf(format) + 1;
 }
+
+// The extension of a path's file name, in lower case, without the dot; empty when the name
+// has none (a leading dot starts a hidden name, not an extension).
+std::string lowercaseExtension(std::string_view path);
 
 // The format a file name asks for by its extension, case-insensitively: .bmp .gif .jpg
 // .jpeg .jp2 .png .tif .tiff. A name without one of these gives none.

@@ -53,4 +53,13 @@ Image exportPicture(Image scene, long currentBackground, bool includeBackground)
     return overImage3(std::move(scene), *colour);
 }
 
+Image exportAnimationFrame(Image scene, long currentBackground, bool includeBackground,
+                           bool keepsAlpha) {
+    Image picture =
+        exportPicture(std::move(scene), currentBackground, includeBackground || !keepsAlpha);
+    if (keepsAlpha)
+        return picture;
+    return overImage3(std::move(picture), Color{0.0, 0.0, 0.0, 1.0});
+}
+
 } // namespace orrery

@@ -15,4 +15,9 @@ Image overImage3(Image picture, Color background);
 // alone, transparency kept. Background 0 never lays anything under it.
 Image exportPicture(Image scene, long currentBackground, bool includeBackground);
 
+// A frame of an animation: as exportPicture, and for a format without alpha (keepsAlpha
+// false) always laid over the background, and over black where that leaves transparency.
+Image exportAnimationFrame(Image scene, long currentBackground, bool includeBackground,
+                           bool keepsAlpha);
+
 } // namespace orrery

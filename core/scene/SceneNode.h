@@ -24,6 +24,10 @@ class SceneNodeBatch;
 struct Sphere {
     double radius = 1.0;
     std::optional<Material> material;
+    // How far the surface has turned about the sphere's north-south axis (+y), west to east,
+    // in whole turns from 0 up to 1: what a turntable animation changes from frame to frame.
+    // The gradient varies only from pole to pole, so only the surface image moves.
+    double turn = 0.0;
 };
 
 struct Camera {

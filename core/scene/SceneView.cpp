@@ -138,6 +138,20 @@ void SceneView::updateLightColor(Color color) {
     setNeedsDisplay();
 }
 
+void SceneView::setSurfaceTurns(const std::function<double(const Sphere&)>& turnOf) {
+    for (const auto& node : scene_.rootNode().children()) {
+        if (!node->sphere())
+            continue;
+        const double turn = turnOf(*node->sphere());
+        if (turn == node->sphere()->turn)
+            continue;
+        Sphere turned = *node->sphere();
+        turned.turn = turn;
+        node->setSphere(std::move(turned));
+    }
+    setNeedsDisplay();
+}
+
 Vec3 SceneView::getLightPosition() const {
     return lightNode_->position();
 }

@@ -90,6 +90,9 @@ public:
     // does not grow with the planets, which are built and freed away from the window.
     SceneNodeBatch replacePlanets(SceneNodeBatch planets);
 
+    // Turns every planet's surface to the share of a turn `turnOf` gives for its sphere.
+    void setSurfaceTurns(const std::function<double(const Sphere&)>& turnOf);
+
     // Camera and light. The recorded field of view and flags are kept for the popover and
     // the project file only: the picture always uses the perspective set up at the start.
     void updateCamera(double xFov, double yFov, double x, double y, double z, bool orthographic,
@@ -106,6 +109,9 @@ public:
     // nodes carry its name now by the captured ones, in their captured order.
     std::vector<CapturedNode> capturePlanet(std::string_view tsecs) const;
     void restorePlanet(std::string_view tsecs, const std::vector<CapturedNode>& nodes);
+    // Gives a fresh view the same camera, light, size and planets, in nodes of its own, so
+    // that another thread may draw or turn them while this view goes on changing.
+    void copyInto(SceneView& copy) const;
     CameraState cameraState() const;
     void setCameraState(const CameraState& state);
     LightState lightState() const;

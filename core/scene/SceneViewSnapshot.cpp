@@ -43,4 +43,21 @@ void SceneView::setLightState(const LightState& state) {
     setNeedsDisplay();
 }
 
+void SceneView::copyInto(SceneView& copy) const {
+    copy.setCameraState(cameraState());
+    copy.setLightState(lightState());
+    copy.setViewSize(viewWidth_, viewHeight_);
+    SceneNode& root = copy.scene_.rootNode();
+    for (const auto& node : scene_.rootNode().children()) {
+        if (node == cameraNode_ || node == lightNode_)
+            continue;
+        auto twin = SceneNode::create();
+        twin->setName(node->name());
+        twin->setPosition(node->position());
+        twin->setHidden(node->isHidden());
+        twin->setSphere(node->sphere());
+        root.addChildNode(std::move(twin));
+    }
+}
+
 } // namespace orrery

@@ -1248,5 +1248,155 @@
         <extracomment>Name of the Preferences sheet for screen readers.</extracomment>
         <translation>Preferences</translation>
     </message>
+    <message id="makeMenuFileExportAnimation">
+        <source>Export Animation...</source>
+        <extracomment>File menu item: the turning system as an animation.</extracomment>
+        <translation>Export Animation...</translation>
+    </message>
+    <message id="animationSheetTitle">
+        <source>Export an animation of the turning system</source>
+        <extracomment>Animation sheet: its name for screen readers.</extracomment>
+        <translation>Export an animation of the turning system</translation>
+    </message>
+    <message id="animationFormatLabel">
+        <source>Format:</source>
+        <extracomment>Animation sheet: label of the format pop-up.</extracomment>
+        <translation>Format:</translation>
+    </message>
+    <message id="animationFormatGif">
+        <source>Animated GIF</source>
+        <extracomment>Animation format.</extracomment>
+        <translation>Animated GIF</translation>
+    </message>
+    <message id="animationFormatWebp">
+        <source>Animated WebP</source>
+        <extracomment>Animation format.</extracomment>
+        <translation>Animated WebP</translation>
+    </message>
+    <message id="animationFormatWebm">
+        <source>WebM video with transparency</source>
+        <extracomment>Animation format: VP9 video with an alpha channel.</extracomment>
+        <translation>WebM video with transparency</translation>
+    </message>
+    <message id="animationFormatMp4">
+        <source>MP4 video</source>
+        <extracomment>Animation format: H.264 video, laid over the background.</extracomment>
+        <translation>MP4 video</translation>
+    </message>
+    <message id="animationFormatSheet">
+        <source>Sprite sheet (PNG and JSON)</source>
+        <extracomment>Animation format: every frame in one picture, with an atlas for game engines.</extracomment>
+        <translation>Sprite sheet (PNG and JSON)</translation>
+    </message>
+    <message id="animationFormatFrames">
+        <source>PNG frames in a folder</source>
+        <extracomment>Animation format: one picture per frame.</extracomment>
+        <translation>PNG frames in a folder</translation>
+    </message>
+    <message id="animationFramesLabel">
+        <source>Frames per loop:</source>
+        <extracomment>Animation sheet: how many frames one loop has.</extracomment>
+        <translation>Frames per loop:</translation>
+    </message>
+    <message id="animationFpsLabel">
+        <source>Frames per second:</source>
+        <extracomment>Animation sheet: playback rate.</extracomment>
+        <translation>Frames per second:</translation>
+    </message>
+    <message id="animationSpinLabel">
+        <source>Turning:</source>
+        <extracomment>Animation sheet: label of the spin pop-up.</extracomment>
+        <translation>Turning:</translation>
+    </message>
+    <message id="animationSpinSame">
+        <source>Every planet turns once</source>
+        <extracomment>Spin choice: all planets turn once per loop.</extracomment>
+        <translation>Every planet turns once</translation>
+    </message>
+    <message id="animationSpinBySize">
+        <source>Smaller planets turn faster</source>
+        <extracomment>Spin choice: the larger a planet, the slower it turns.</extracomment>
+        <translation>Smaller planets turn faster</translation>
+    </message>
+    <message id="animationLightOrbit">
+        <source>The light circles the scene</source>
+        <extracomment>Animation sheet: the light goes once around the scene per loop.</extracomment>
+        <translation>The light circles the scene</translation>
+    </message>
+    <message id="animationScaleLabel">
+        <source>Size scale:</source>
+        <extracomment>Animation sheet: the picture's size times this factor.</extracomment>
+        <translation>Size scale:</translation>
+    </message>
+    <message id="animationQualityLabel">
+        <source>Quality:</source>
+        <extracomment>Animation sheet: quality of WebP and video (100 is lossless WebP).</extracomment>
+        <translation>Quality:</translation>
+    </message>
+    <message id="animationExport">
+        <source>Export...</source>
+        <extracomment>Animation sheet: goes on to the save panel.</extracomment>
+        <translation>Export...</translation>
+    </message>
+    <message id="animationCancel">
+        <source>Cancel</source>
+        <extracomment>Animation sheet and its progress sheet: stops without writing anything.</extracomment>
+        <translation>Cancel</translation>
+    </message>
+    <message id="animationPreviewName">
+        <source>Preview of the turning system</source>
+        <extracomment>Animation sheet: the turning preview, for screen readers.</extracomment>
+        <translation>Preview of the turning system</translation>
+    </message>
+    <message id="animationSaveTitle">
+        <source>Export Animation</source>
+        <extracomment>Save panel title for an animation.</extracomment>
+        <translation>Export Animation</translation>
+    </message>
+    <message id="animationSaveMessage">
+        <source>Choose where the animation goes.</source>
+        <extracomment>Save panel message for an animation.</extracomment>
+        <translation>Choose where the animation goes.</translation>
+    </message>
+    <message id="animationUntitled">
+        <source>Turning system</source>
+        <extracomment>Suggested file name of an animation.</extracomment>
+        <translation>Turning system</translation>
+    </message>
+    <message id="animationFolderTitle">
+        <source>Choose the folder for the frames</source>
+        <extracomment>Folder panel title for PNG frames.</extracomment>
+        <translation>Choose the folder for the frames</translation>
+    </message>
+    <message id="animationWriting">
+        <source>Writing the animation...</source>
+        <extracomment>Progress sheet of the animation export.</extracomment>
+        <translation>Writing the animation...</translation>
+    </message>
+    <message id="animationProgress">
+        <source>Frame %1 of %2</source>
+        <extracomment>Progress sheet: frames done of all.</extracomment>
+        <translation>Frame %1 of %2</translation>
+    </message>
+    <message id="animationFailed">
+        <source>The animation could not be exported.</source>
+        <extracomment>Alert after a failed animation export.</extracomment>
+        <translation>The animation could not be exported.</translation>
+    </message>
+    <message id="animationPaletteLabel">
+        <source>GIF colours:</source>
+        <extracomment>Animation sheet: how GIF frames get their palettes.</extracomment>
+        <translation>GIF colours:</translation>
+    </message>
+    <message id="animationPaletteFrame">
+        <source>One palette for each frame</source>
+        <extracomment>GIF palette choice: each frame its own 256 colours.</extracomment>
+        <translation>One palette for each frame</translation>
+    </message>
+    <message id="animationPaletteLoop">
+        <source>One palette for the whole loop</source>
+        <extracomment>GIF palette choice: the same 256 colours in every frame (steadier, slower).</extracomment>
+        <translation>One palette for the whole loop</translation>
+    </message>
 </context>
 </TS>

@@ -1,4 +1,5 @@
 #include "core/export/ExportPicture.h"
+#include "customWin/AnimationPreview.h"
 #include "customWin/mainWindow.h"
 #include "customWin/sceneView.h"
 #include "imageio/ImageFile.h"
@@ -9,12 +10,17 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
+#include <QDoubleSpinBox>
 #include <QFile>
 #include <QFileDialog>
+#include <QImageReader>
+#include <QLabel>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
 #include <QSlider>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -88,7 +94,70 @@ private slots:
                  1);
     }
 
+    void anAnimationIsWrittenAndItsChoicesAreRemembered() {
+        QWidget* sheet = animationSheet();
+        // The sheet holds the menus, both export items alike.
+        QVERIFY(!app().menus().fileExport->isEnabled());
+        QVERIFY(!app().menus().fileExportAnimation->isEnabled());
+        child<QSpinBox>(*sheet, "animationFramesField").setValue(4);
+        child<QDoubleSpinBox>(*sheet, "animationScaleField").setValue(0.25);
+        // The preview turns in the sheet.
+        auto& preview = child<AnimationPreview>(*sheet, "animationPreview");
+        QTRY_VERIFY(preview.frameCount() == 4);
+        const QString gif = folder_.filePath(QStringLiteral("spin.gif"));
+        saveAnimation(*sheet, gif);
+        QTRY_VERIFY(QFile::exists(gif) && visibleTopLevel("progressSheet") == nullptr);
+        QImageReader reader(gif);
+        QCOMPARE(reader.imageCount(), 4);
+        QCOMPARE(reader.size(), QSize(240, 135));
+        QVERIFY(app().menus().fileExportAnimation->isEnabled());
+
+        sheet = animationSheet();
+        QCOMPARE(child<QSpinBox>(*sheet, "animationFramesField").value(), 4);
+        QCOMPARE(child<QDoubleSpinBox>(*sheet, "animationScaleField").value(), 0.25);
+        QTest::mouseClick(&child<QPushButton>(*sheet, "sheetButton1001"), Qt::LeftButton);
+        QTRY_VERIFY(visibleTopLevel("animationSheet") == nullptr);
+    }
+
+    void cancellingAnAnimationLeavesNoFile() {
+        QWidget* sheet = animationSheet();
+        child<QSpinBox>(*sheet, "animationFramesField").setValue(720);
+        child<QDoubleSpinBox>(*sheet, "animationScaleField").setValue(1.0);
+        saveAnimation(*sheet, folder_.filePath(QStringLiteral("long.webm")));
+        QWidget* progress = nullptr;
+        QTRY_VERIFY((progress = visibleTopLevel("progressSheet")) != nullptr);
+        // Cancel once the count of frames shows the work under way.
+        QTRY_VERIFY(!child<QLabel>(*progress, "progressDetail").text().isEmpty());
+        QTest::mouseClick(&child<QPushButton>(*progress, "progressCancel"), Qt::LeftButton);
+        QTRY_VERIFY(visibleTopLevel("progressSheet") == nullptr);
+        // Neither the video nor its hidden temporary is left.
+        QCOMPARE(QDir(folder_.path())
+                     .entryList({QStringLiteral("*long.webm*")}, QDir::Files | QDir::Hidden),
+                 QStringList());
+        QVERIFY(visibleTopLevel("questionSheet") == nullptr); // no failure to report
+    }
+
 private:
+    QWidget* animationSheet() {
+        QTest::keyClick(&app().window(), Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
+        QWidget* sheet = nullptr;
+        [&] {
+            QTRY_VERIFY((sheet = visibleTopLevel("animationSheet")) != nullptr);
+        }();
+        return sheet;
+    }
+
+    void saveAnimation(QWidget& sheet, const QString& path) {
+        QTest::mouseClick(&child<QPushButton>(sheet, "sheetButton1000"), Qt::LeftButton);
+        QFileDialog* panel = nullptr;
+        [&] {
+            QTRY_VERIFY((panel = qobject_cast<QFileDialog*>(visibleTopLevel("savePanel"))) !=
+                        nullptr);
+        }();
+        if (panel != nullptr)
+            chooseInPanel(*panel, path);
+    }
+
     QWidget* ask() {
         app().menus().fileExport->trigger();
         QWidget* question = nullptr;

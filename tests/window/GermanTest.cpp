@@ -223,6 +223,13 @@ const Opening kOpenings[] = {
      "planetAddSheet"},
     {"save panel", [](AppDelegate& app) { app.menus().fileSaveAs->trigger(); }, "savePanel"},
     {"export question", askToExport, "questionSheet"},
+    {"animation sheet",
+     [](AppDelegate& app) {
+         app.editor().createPlanet("100", "Terra");
+         app.reloadPlanets();
+         app.menus().fileExportAnimation->trigger();
+     },
+     "animationSheet"},
     {"export panel with compression",
      [](AppDelegate& app) {
          askToExport(app);

@@ -1,10 +1,12 @@
 // The pictures of the user guide: the window in the states the guide explains.
+#include "customWin/AnimationPreview.h"
 #include "customWin/ProgressSheet.h"
 #include "customWin/Strings.h"
 #include "customWin/mainWindow.h"
 #include "customWin/tableView1/PlanetTable.h"
 #include "tools/screenshots/Shots.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -44,6 +46,19 @@ void saveTour(window::AppDelegate& app, const QDir& dir) {
         app.forward7Clicked();
     }
     tour->close();
+}
+
+// The Export Animation sheet once its preview turns.
+void saveAnimationSheet(window::AppDelegate& app, const QDir& dir) {
+    app.menus().fileExportAnimation->trigger();
+    settle();
+    auto* sheet = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    auto* preview = sheet->findChild<window::AnimationPreview*>(QStringLiteral("animationPreview"));
+    while (preview->frameCount() == 0)
+        QTest::qWait(50);
+    saveWindow(app.window(), dir.filePath(QStringLiteral("animation-sheet.png")), 60);
+    sheet->reject();
+    settle();
 }
 
 } // namespace
@@ -97,6 +112,7 @@ void makeGuidePictures(window::AppDelegate& app, const QString& out, const QStri
     progress->begin();
     saveWindow(window, dir.filePath(QStringLiteral("progress-sheet.png")));
     progress->end();
+    saveAnimationSheet(app, dir);
 
     QMenu& scene = *app.menus().sceneMenu;
     QMenuBar& bar = *window.findChild<QMenuBar*>(QStringLiteral("menuBar"));
