@@ -8,16 +8,18 @@ constexpr std::string_view kUsage =
     R"(usage:
   orrery [PACKAGE.kvx ...]               open the window; the first package is opened
   orrery info PACKAGE.kvx                print the package as JSON
+  orrery info PICTURE                    print the system a picture of ours carries
   orrery render PACKAGE.kvx -o FILE      render without a display and write FILE
          [--scale S]                     backing scale factor (default 1)
          [--include-background]          lay the picture over the background colour
          [--quality N]                   JPEG / JPEG 2000 compression 0-100 (default 85)
   orrery convert IN OUT                  .json -> .kvx or .kvx -> .json
+                                         or PICTURE -> .json (the system it carries)
   orrery --help | --version
 
 The picture type of render follows FILE's extension: .bmp .gif .jpg .jpeg .jp2 .png .tif
-.tiff. Exit status: 0 done; 1 bad usage; 2 input missing or invalid; 3 output cannot be
-written.
+.tiff; a PNG, TIFF or JPEG carries the system it shows, and opens again as that system.
+Exit status: 0 done; 1 bad usage; 2 input missing or invalid; 3 output cannot be written.
 )";
 
 } // namespace

@@ -187,6 +187,8 @@ private:
     void askToClearSystem();
     void removeAllPlanets();
     void writePackage(const QString& path, bool saveAs, std::function<void()> then);
+    // The system on screen as a save writes it.
+    ProjectDocument currentDocument();
     void openProject2(const QString& path);
     void openProject3(const QString& path, const OpenedProject& project);
     void showOpenedCameraAndLight(const OpenedProject& project);

@@ -4,6 +4,8 @@
 #include "core/app/AppPaths.h"
 #include "core/export/ExportChoices.h"
 #include "core/export/ExportPicture.h"
+#include "core/package/EmbeddedSystem.h"
+#include "core/package/ProjectSettings.h"
 #include "core/settings/SettingsReaders.h"
 #include "customWin/AppDelegate.h"
 #include "customWin/ExportAccessories.h"
@@ -107,10 +109,14 @@ void AppDelegate::exportPicture(const QString& path, ExportFormat format, bool w
         }
         Image picture =
             orrery::exportPicture(std::move(*scene), state_.currentBackground, withBackground);
+        // The picture carries the system it shows, so that it opens again as that system.
+        std::vector<PictureText> system =
+            systemTextFields(openedProject(currentDocument()), format);
         runWithProgress<std::string>(
             progress, *mainWindow_,
-            [picture = std::move(picture), target = path.toStdString(), format, compression] {
-                return imageio::writeImageFile(picture, target, format, compression);
+            [picture = std::move(picture), target = path.toStdString(), format, compression,
+             system = std::move(system)] {
+                return imageio::writeImageFile(picture, target, format, compression, system);
             },
             [this](std::string& failure) {
                 loadMenuStatus();

@@ -1,6 +1,7 @@
 #include "customWin/PackageDialogs.h"
 
 #include "core/app/SaveTarget.h"
+#include "core/package/SystemSource.h"
 #include "customWin/Sheet.h"
 #include "customWin/Strings.h"
 
@@ -130,13 +131,22 @@ QString packageFilter() {
     return QStringLiteral("*.%1").arg(QLatin1String(kPackageSuffix));
 }
 
+// Packages, and the pictures that carry the system they show.
+QString openFilter() {
+    QString filter = packageFilter();
+    for (std::string_view extension : kSystemPictureExtensions)
+        filter += QStringLiteral(" *.") + QString::fromUtf8(extension.data(), extension.size());
+    return filter;
+}
+
 } // namespace
 
 void openPackagePanel(QWidget& window, const QString& folder, const PanelTexts& texts,
                       std::function<void(const QString&)> chosen) {
     auto* panel = new DocumentPanel(window, folder, texts, QFileDialog::AcceptOpen, {});
-    panel->setFileMode(QFileDialog::Directory);
-    panel->setNameFilter(packageFilter());
+    // Pictures are files; packages are folders, chosen as the panel enters them.
+    panel->setFileMode(QFileDialog::ExistingFile);
+    panel->setNameFilter(openFilter());
     finishWith(panel, std::move(chosen));
 }
 

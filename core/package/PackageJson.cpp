@@ -1,4 +1,4 @@
-#include "cli/PackageJson.h"
+#include "core/package/PackageJson.h"
 
 #include "core/model/TextNumber.h"
 #include "core/validate/Validators.h"
@@ -7,7 +7,7 @@
 #include <charconv>
 #include <string_view>
 
-namespace orrery::cli {
+namespace orrery {
 namespace {
 
 using nlohmann::json;
@@ -218,4 +218,4 @@ std::optional<ProjectDocument> documentFromJsonText(std::string_view jsonText, s
     }
 }
 
-} // namespace orrery::cli
+} // namespace orrery

@@ -11,7 +11,7 @@
 // The JSON form of a project package: what `orrery info` prints and `orrery convert`
 // reads and writes. Values are the texts as stored; colours are [red, green, blue, alpha]
 // from 0 to 1.
-namespace orrery::cli {
+namespace orrery {
 
 // "checks" (the results of the checks opening runs on each value) is for reading by
 // people; it is derived from the values, so convert neither writes nor reads it.
@@ -24,4 +24,4 @@ nlohmann::ordered_json packageJson(const OpenedProject& project, bool withChecks
 // one-line reason that names the value, for instance "planets[2].radius must be text".
 std::optional<ProjectDocument> documentFromJsonText(std::string_view text, std::string& error);
 
-} // namespace orrery::cli
+} // namespace orrery
