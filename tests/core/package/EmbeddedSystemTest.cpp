@@ -95,8 +95,8 @@ std::string refusal(const Bytes& picture) {
 }
 
 TEST(EmbeddedSystem, EveryKindOfPictureGivesTheSystemBack_InAsciiWhateverTheScript) {
-    // 400 planets take several JPEG comment segments.
-    const OpenedProject project = openedProject(sampleDocument(400));
+    // 800 planets take several JPEG comment segments.
+    const OpenedProject project = openedProject(sampleDocument(800));
     const std::vector<PictureText> whole = systemTextFields(project, ExportFormat::png);
     ASSERT_EQ(whole.size(), 1u);
     EXPECT_TRUE(std::all_of(whole[0].value.begin(), whole[0].value.end(),
@@ -114,7 +114,7 @@ TEST(EmbeddedSystem, EveryKindOfPictureGivesTheSystemBack_InAsciiWhateverTheScri
 }
 
 TEST(EmbeddedSystem, PicturesWithoutAWholeSystemAreRefused) {
-    const OpenedProject project = openedProject(sampleDocument(400));
+    const OpenedProject project = openedProject(sampleDocument(800));
     std::vector<PictureText> pieces = systemTextFields(project, ExportFormat::jpeg);
     EXPECT_EQ(refusal(png({{"Comment", "a picture"}})), "this picture carries no system");
     pieces.erase(pieces.begin() + 1);
