@@ -26,6 +26,10 @@ class QLineEdit;
 class QUrl;
 class QPrinter;
 
+namespace orrery {
+struct ReadRows;
+} // namespace orrery
+
 namespace orrery::window {
 
 class CameraPopover;
@@ -131,6 +135,13 @@ public:
     bool hasUnsavedChanges() const;
     const DocumentState& document() const { return *document_; }
 
+    // Planet rows for spreadsheets (AppDelegateRows.cpp): Copy and Paste on the table,
+    // Export Planets and Import Planets.
+    void copyPlanetRows();
+    void pastePlanetRows();
+    void exportPlanetRows();
+    void importPlanetRows();
+
     // Export and printing (AppDelegateExport.cpp, AppDelegatePrint.cpp).
     void FileExport1();
     void printPlain();
@@ -172,7 +183,9 @@ private:
     void buildPlanetPanel();
     PlanetPanel& planetPanel();
     void afterCellEdit(CellOutcome outcome);
-    void showStatus();
+    // The status line under the table, for three seconds: the refusal of a typed value
+    // unless another line is given.
+    void showStatus(const QString& line = {});
     void planetDeletionSelection();
     void closeCreationSheet();
     void showHistoryStep(const EditStep* step, bool undone);
@@ -195,6 +208,10 @@ private:
     void showFailure(const QString& message, const std::string& reason);
     void askToSaveChanges(std::function<void()> then);
     bool mayClose();
+
+    // Planet rows.
+    void connectRowActions();
+    void addPlanetRows(ReadRows rows);
 
     // Export.
     void FileExport2(bool withBackground);

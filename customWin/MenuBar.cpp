@@ -39,6 +39,8 @@ void buildFileMenu(QMenuBar& bar, MenuItems& m) {
     m.fileSaveAs = addItem(*m.fileMenu, "fileSaveAs", QKeySequence(QStringLiteral("Ctrl+Shift+S")));
     m.fileMenu->addSeparator();
     m.fileExport = addItem(*m.fileMenu, "fileExport", QKeySequence(QStringLiteral("Ctrl+E")));
+    m.fileExportPlanets = addItem(*m.fileMenu, "fileExportPlanets");
+    m.fileImportPlanets = addItem(*m.fileMenu, "fileImportPlanets");
     m.fileMenu->addSeparator();
     m.filePrintsetup = addItem(*m.fileMenu, "filePrintsetup");
     m.filePrint = addItem(*m.fileMenu, "filePrint", QKeySequence::Print);
@@ -157,7 +159,9 @@ QList<QAction*> MenuItems::guardedItems() const {
             sceneColorItems[2],
             sceneColorItems[3],
             sceneColorItems[4],
-            sceneColorItems[5]};
+            sceneColorItems[5],
+            fileExportPlanets,
+            fileImportPlanets};
 }
 
 MenuItems buildMenuBar(QMenuBar& bar) {
@@ -196,6 +200,8 @@ void makeNSMenu(const MenuItems& m, const QString& appName) {
         {m.fileSave, "makeMenuFileSave"},
         {m.fileSaveAs, "makeMenuFileSaveAs"},
         {m.fileExport, "makeMenuFileExport"},
+        {m.fileExportPlanets, "makeMenuFileExportPlanets"},
+        {m.fileImportPlanets, "makeMenuFileImportPlanets"},
         {m.filePrintsetup, "makeMenuFilePrintsetup"},
         {m.filePrint, "makeMenuFilePrint"},
         {m.editUndo, "makeMenuEditUndo"},

@@ -33,6 +33,8 @@ struct MenuItems {
     QAction* fileSave = nullptr;
     QAction* fileSaveAs = nullptr;
     QAction* fileExport = nullptr;
+    QAction* fileExportPlanets = nullptr;
+    QAction* fileImportPlanets = nullptr;
     QAction* filePrintsetup = nullptr;
     QAction* filePrint = nullptr;
 

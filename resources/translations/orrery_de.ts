@@ -1248,5 +1248,55 @@
         <extracomment>Name of the Preferences sheet for screen readers.</extracomment>
         <translation>Einstellungen</translation>
     </message>
+    <message id="makeMenuFileExportPlanets">
+        <source>Export Planets…</source>
+        <extracomment>File menu: writes the planet table to a .tsv or .csv file for spreadsheets.</extracomment>
+        <translation>Planeten exportieren …</translation>
+    </message>
+    <message id="makeMenuFileImportPlanets">
+        <source>Import Planets…</source>
+        <extracomment>File menu: adds the planets of a .tsv or .csv file.</extracomment>
+        <translation>Planeten importieren …</translation>
+    </message>
+    <message id="exportPlanetsTitle">
+        <source>Export Planets</source>
+        <extracomment>Title of the save panel of Export Planets.</extracomment>
+        <translation>Planeten exportieren</translation>
+    </message>
+    <message id="exportPlanetsMessage">
+        <source>Save the planets as a table for spreadsheets: .tsv (tabs) or .csv (commas).</source>
+        <extracomment>Message of the save panel of Export Planets.</extracomment>
+        <translation>Die Planeten als Tabelle für Tabellenkalkulationen sichern: .tsv (Tabulatoren) oder .csv (Kommas).</translation>
+    </message>
+    <message id="exportPlanetsFile">
+        <source>Planets</source>
+        <extracomment>Suggested file name of Export Planets.</extracomment>
+        <translation>Planeten</translation>
+    </message>
+    <message id="importPlanetsTitle">
+        <source>Import Planets</source>
+        <extracomment>Title of the open panel of Import Planets.</extracomment>
+        <translation>Planeten importieren</translation>
+    </message>
+    <message id="importPlanetsMessage">
+        <source>Choose a table of planets (.tsv or .csv); its planets are added.</source>
+        <extracomment>Message of the open panel of Import Planets.</extracomment>
+        <translation>Eine Tabelle mit Planeten wählen (.tsv oder .csv); ihre Planeten werden hinzugefügt.</translation>
+    </message>
+    <message id="exportPlanetsFailedMsg">
+        <source>The planets could not be exported.</source>
+        <extracomment>Alert after a failed Export Planets; the reason follows.</extracomment>
+        <translation>Die Planeten konnten nicht exportiert werden.</translation>
+    </message>
+    <message id="importPlanetsFailedMsg">
+        <source>The planets could not be imported.</source>
+        <extracomment>Alert after a failed Import Planets; the reason follows.</extracomment>
+        <translation>Die Planeten konnten nicht importiert werden.</translation>
+    </message>
+    <message id="rowsRefusedStatus">
+        <source>Rows refused: %1</source>
+        <extracomment>Status label after a paste or import. %1 lists each refused row's number and the column that failed, such as 3 (radius).</extracomment>
+        <translation>Abgelehnte Zeilen: %1</translation>
+    </message>
 </context>
 </TS>
