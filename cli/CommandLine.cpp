@@ -15,6 +15,7 @@ constexpr std::string_view kUsage =
          [--quality N]                   JPEG / JPEG 2000 compression 0-100 (default 85)
   orrery convert IN OUT                  .json -> .kvx or .kvx -> .json
                                          or PICTURE -> .json (the system it carries)
+  orrery scene PACKAGE.kvx -o FILE       the scene as glTF 2.0 for 3D tools (.glb or .gltf)
   orrery --help | --version
 
 The picture type of render follows FILE's extension: .bmp .gif .jpg .jpeg .jp2 .png .tif
@@ -28,7 +29,7 @@ bool isCommandLine(const std::vector<std::string>& arguments) {
     if (arguments.empty())
         return false;
     const std::string& first = arguments.front();
-    return first == "info" || first == "render" || first == "convert" ||
+    return first == "info" || first == "render" || first == "convert" || first == "scene" ||
            (first.size() > 1 && first.front() == '-');
 }
 
@@ -41,6 +42,8 @@ int runCommandLine(const std::vector<std::string>& arguments, const Streams& io)
         return renderCommand(rest, io);
     if (verb == "convert")
         return convertCommand(rest, io);
+    if (verb == "scene")
+        return sceneCommand(rest, io);
     if (verb == "--help" || verb == "-h") {
         io.out << kUsage;
         return kDone;
