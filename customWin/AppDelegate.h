@@ -144,6 +144,8 @@ public:
 
     // Export and printing (AppDelegateExport.cpp, AppDelegatePrint.cpp).
     void FileExport1();
+    // File > Export Scene: the scene as a .glb for 3D tools.
+    void exportScene();
     void printPlain();
     void pageSetup();
     QPrinter& printer();

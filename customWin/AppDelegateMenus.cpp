@@ -81,6 +81,7 @@ void AppDelegate::connectMenuActions() {
     connect(m.planetCreate, &QAction::triggered, this, &AppDelegate::openPlanetCreation);
     connect(m.planetDelete, &QAction::triggered, this, &AppDelegate::deletPlanet1);
     connect(m.fileExport, &QAction::triggered, this, &AppDelegate::FileExport1);
+    connect(m.fileExportScene, &QAction::triggered, this, &AppDelegate::exportScene);
     connect(m.filePrint, &QAction::triggered, this, &AppDelegate::printPlain);
     connect(m.filePrintsetup, &QAction::triggered, this, &AppDelegate::pageSetup);
     connect(m.appPreferences, &QAction::triggered, this, &AppDelegate::openPreferences);

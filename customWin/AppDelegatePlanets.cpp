@@ -151,6 +151,7 @@ void AppDelegate::planetDeletionSelection() {
 void AppDelegate::validateExport() {
     const bool shown = canExport(state_.planetArray);
     menus_.fileExport->setEnabled(shown);
+    menus_.fileExportScene->setEnabled(shown);
     planetPanel().exportButton1().setEnabled(shown);
 }
 

@@ -39,6 +39,7 @@ void buildFileMenu(QMenuBar& bar, MenuItems& m) {
     m.fileSaveAs = addItem(*m.fileMenu, "fileSaveAs", QKeySequence(QStringLiteral("Ctrl+Shift+S")));
     m.fileMenu->addSeparator();
     m.fileExport = addItem(*m.fileMenu, "fileExport", QKeySequence(QStringLiteral("Ctrl+E")));
+    m.fileExportScene = addItem(*m.fileMenu, "fileExportScene");
     m.fileExportPlanets = addItem(*m.fileMenu, "fileExportPlanets");
     m.fileImportPlanets = addItem(*m.fileMenu, "fileImportPlanets");
     m.fileMenu->addSeparator();
@@ -160,6 +161,7 @@ QList<QAction*> MenuItems::guardedItems() const {
             sceneColorItems[3],
             sceneColorItems[4],
             sceneColorItems[5],
+            fileExportScene,
             fileExportPlanets,
             fileImportPlanets};
 }
@@ -200,6 +202,7 @@ void makeNSMenu(const MenuItems& m, const QString& appName) {
         {m.fileSave, "makeMenuFileSave"},
         {m.fileSaveAs, "makeMenuFileSaveAs"},
         {m.fileExport, "makeMenuFileExport"},
+        {m.fileExportScene, "makeMenuFileExportScene"},
         {m.fileExportPlanets, "makeMenuFileExportPlanets"},
         {m.fileImportPlanets, "makeMenuFileImportPlanets"},
         {m.filePrintsetup, "makeMenuFilePrintsetup"},

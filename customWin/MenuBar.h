@@ -33,6 +33,7 @@ struct MenuItems {
     QAction* fileSave = nullptr;
     QAction* fileSaveAs = nullptr;
     QAction* fileExport = nullptr;
+    QAction* fileExportScene = nullptr;
     QAction* fileExportPlanets = nullptr;
     QAction* fileImportPlanets = nullptr;
     QAction* filePrintsetup = nullptr;

@@ -1298,5 +1298,30 @@
         <extracomment>Status label after a paste or import. %1 lists each refused row's number and the column that failed, such as 3 (radius).</extracomment>
         <translation>Rows refused: %1</translation>
     </message>
+    <message id="makeMenuFileExportScene">
+        <source>Export Scene…</source>
+        <extracomment>File menu: writes the scene as a glTF file (.glb) for 3D programs.</extracomment>
+        <translation>Export Scene…</translation>
+    </message>
+    <message id="exportSceneTitle">
+        <source>Export Scene</source>
+        <extracomment>Title of the save panel of Export Scene.</extracomment>
+        <translation>Export Scene</translation>
+    </message>
+    <message id="exportSceneMessage">
+        <source>Save the scene for 3D programs as glTF (.glb): the planets, the camera and the light.</source>
+        <extracomment>Message of the save panel of Export Scene.</extracomment>
+        <translation>Save the scene for 3D programs as glTF (.glb): the planets, the camera and the light.</translation>
+    </message>
+    <message id="exportSceneSaving">
+        <source>Saving the scene…</source>
+        <extracomment>Progress sheet while the scene is written.</extracomment>
+        <translation>Saving the scene…</translation>
+    </message>
+    <message id="exportSceneFailedMsg">
+        <source>The scene could not be exported.</source>
+        <extracomment>Alert after a failed Export Scene; the reason follows.</extracomment>
+        <translation>The scene could not be exported.</translation>
+    </message>
 </context>
 </TS>
