@@ -8,11 +8,14 @@ constexpr std::string_view kUsage =
     R"(usage:
   orrery [PACKAGE.kvx ...]               open the window; the first package is opened
   orrery info PACKAGE.kvx                print the package as JSON
+  orrery info PICTURE                    print the system a picture of ours carries
   orrery render PACKAGE.kvx -o FILE      render without a display and write FILE
          [--scale S]                     backing scale factor (default 1)
          [--include-background]          lay the picture over the background colour
          [--quality N]                   JPEG / JPEG 2000 compression 0-100 (default 85)
   orrery convert IN OUT                  .json -> .kvx or .kvx -> .json
+                                         or PICTURE -> .json (the system it carries)
+  orrery scene PACKAGE.kvx -o FILE       the scene as glTF 2.0 for 3D tools (.glb or .gltf)
   orrery animate PACKAGE.kvx -o FILE     the system turning, one loop, without a display
          [--frames N]                    frames in the loop, 2-720 (default 48)
          [--fps F]                       frames per second, 1-60 (default 24)
@@ -25,9 +28,10 @@ constexpr std::string_view kUsage =
   orrery --help | --version
 
 The picture type of render follows FILE's extension: .bmp .gif .jpg .jpeg .jp2 .png .tif
-.tiff; animate writes .gif .webp .webm .mp4, .png for a sprite sheet with its .json atlas,
-or a folder of PNG frames for a FILE ending in /. Exit status: 0 done; 1 bad usage; 2 input missing or invalid; 3 output cannot be
-written.
+.tiff; a PNG, TIFF or JPEG carries the system it shows, and opens again as that system.
+animate writes .gif .webp .webm .mp4, .png for a sprite sheet with its .json atlas, or a
+folder of PNG frames for a FILE ending in /. Exit status: 0 done; 1 bad usage; 2 input
+missing or invalid; 3 output cannot be written.
 )";
 
 } // namespace
@@ -37,6 +41,7 @@ bool isCommandLine(const std::vector<std::string>& arguments) {
         return false;
     const std::string& first = arguments.front();
     return first == "info" || first == "render" || first == "convert" || first == "animate" ||
+           first == "scene" ||
            (first.size() > 1 && first.front() == '-');
 }
 
@@ -51,6 +56,8 @@ int runCommandLine(const std::vector<std::string>& arguments, const Streams& io)
         return convertCommand(rest, io);
     if (verb == "animate")
         return animateCommand(rest, io);
+    if (verb == "scene")
+        return sceneCommand(rest, io);
     if (verb == "--help" || verb == "-h") {
         io.out << kUsage;
         return kDone;

@@ -1,9 +1,10 @@
 #include "cli/ExitStatus.h"
 #include "cli/FileText.h"
-#include "cli/JsonLayout.h"
-#include "cli/PackageJson.h"
 #include "cli/Verbs.h"
+#include "core/package/JsonLayout.h"
+#include "core/package/PackageJson.h"
 #include "core/package/ProjectPackage.h"
+#include "core/package/SystemSource.h"
 #include "imageio/AtomicWrite.h"
 
 namespace orrery::cli {
@@ -25,10 +26,11 @@ int jsonToPackage(const std::string& in, const std::string& out, const Streams& 
     return kDone;
 }
 
-int packageToJson(const std::string& in, const std::string& out, const Streams& io) {
+// A package, or a picture that carries its system.
+int systemToJson(const std::string& in, const std::string& out, const Streams& io) {
     OpenedProject project;
     std::string error;
-    if (!readProjectPackage(in, project, error))
+    if (!readSystem(in, project, error))
         return fail(io.err, io.program, kBadInput, error);
     const std::string text = layOutJson(packageJson(project, false));
     error = imageio::writeFileAtomically(
@@ -49,11 +51,11 @@ int convertCommand(const std::vector<std::string>& arguments, const Streams& io)
     const std::string to = lowerExtension(out);
     if (from == ".json" && to == ".kvx")
         return jsonToPackage(in, out, io);
-    if (from == ".kvx" && to == ".json")
-        return packageToJson(in, out, io);
+    if ((from == ".kvx" || isSystemPictureName(in)) && to == ".json")
+        return systemToJson(in, out, io);
     return fail(io.err, io.program, kBadUsage,
-                "convert turns a .json file into a .kvx package or a .kvx package into a "
-                ".json file, not " +
+                "convert turns a .json file into a .kvx package, a .kvx package into a .json "
+                "file, or a picture of ours into a .json file, not " +
                     in + " into " + out);
 }
 

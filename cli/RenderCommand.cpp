@@ -5,6 +5,8 @@
 #include "core/export/ExportChoices.h"
 #include "core/export/ExportPicture.h"
 #include "core/export/PackageScene.h"
+#include "core/package/EmbeddedSystem.h"
+#include "core/package/ProjectPackage.h"
 #include "imageio/ImageFile.h"
 #include "imageio/SurfaceLibrary.h"
 #include "render/HeadlessRender.h"
@@ -42,7 +44,8 @@ int renderCommand(const std::vector<std::string>& arguments, const Streams& io) 
     const Image picture =
         exportPicture(std::move(*scene), packageBackground(project), options->includeBackground);
     error = imageio::writeImageFile(picture, options->output, options->format,
-                                    compressionFactor(options->quality));
+                                    compressionFactor(options->quality),
+                                    systemTextFields(project, options->format));
     if (!error.empty())
         return fail(io.err, io.program, kCannotWrite, options->output + ": " + error);
     return kDone;

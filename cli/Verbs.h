@@ -19,6 +19,7 @@ int infoCommand(const std::vector<std::string>& arguments, const Streams& io);
 int renderCommand(const std::vector<std::string>& arguments, const Streams& io);
 int convertCommand(const std::vector<std::string>& arguments, const Streams& io);
 int animateCommand(const std::vector<std::string>& arguments, const Streams& io);
+int sceneCommand(const std::vector<std::string>& arguments, const Streams& io);
 
 // True when the arguments name a verb or an option; anything else (nothing at all, or
 // package paths) is for the window.

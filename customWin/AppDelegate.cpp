@@ -132,6 +132,7 @@ void AppDelegate::makeNSControls() {
     followSelectionInFindMenu();
     buildPopovers();
     connectDocumentActions();
+    connectRowActions();
     mainWindow_->content().header().setTexts(text("documentSizeLabel"), text("documentSizeTimes"));
     QLineEdit& width = mainWindow_->content().header().widthField1();
     QLineEdit& height = mainWindow_->content().header().heightField1();

@@ -27,6 +27,10 @@ class QLineEdit;
 class QUrl;
 class QPrinter;
 
+namespace orrery {
+struct ReadRows;
+} // namespace orrery
+
 namespace orrery::window {
 
 class CameraPopover;
@@ -132,9 +136,18 @@ public:
     bool hasUnsavedChanges() const;
     const DocumentState& document() const { return *document_; }
 
+    // Planet rows for spreadsheets (AppDelegateRows.cpp): Copy and Paste on the table,
+    // Export Planets and Import Planets.
+    void copyPlanetRows();
+    void pastePlanetRows();
+    void exportPlanetRows();
+    void importPlanetRows();
+
     // Export and printing (AppDelegateExport.cpp, AppDelegatePrint.cpp).
     void FileExport1();
     void FileExportAnimation();
+    // File > Export Scene: the scene as a .glb for 3D tools.
+    void exportScene();
     void printPlain();
     void pageSetup();
     QPrinter& printer();
@@ -174,7 +187,9 @@ private:
     void buildPlanetPanel();
     PlanetPanel& planetPanel();
     void afterCellEdit(CellOutcome outcome);
-    void showStatus();
+    // The status line under the table, for three seconds: the refusal of a typed value
+    // unless another line is given.
+    void showStatus(const QString& line = {});
     void planetDeletionSelection();
     void closeCreationSheet();
     void showHistoryStep(const EditStep* step, bool undone);
@@ -190,12 +205,18 @@ private:
     void removeAllPlanets();
     void replacePlanets(SceneNodeBatch oldNodes, std::vector<PlanetRecord> records);
     void writePackage(const QString& path, bool saveAs, std::function<void()> then);
+    // The system on screen as a save writes it.
+    ProjectDocument currentDocument();
     void openProject2(const QString& path);
     void openProject3(const QString& path, OpenedProject& project, SceneNodeBatch planetNodes);
     void showOpenedCameraAndLight(const OpenedProject& project);
     void showFailure(const QString& message, const std::string& reason);
     void askToSaveChanges(std::function<void()> then);
     bool mayClose();
+
+    // Planet rows.
+    void connectRowActions();
+    void addPlanetRows(ReadRows rows);
 
     // Export.
     void FileExport2(bool withBackground);

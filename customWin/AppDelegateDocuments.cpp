@@ -4,6 +4,7 @@
 // the scene happens here, on the main thread, once the work is back.
 #include "core/export/PackageScene.h"
 #include "core/package/ProjectPackage.h"
+#include "core/package/SystemSource.h"
 #include "core/settings/SettingsReaders.h"
 #include "customWin/AppDelegate.h"
 #include "customWin/CameraPopover.h"
@@ -145,11 +146,14 @@ void AppDelegate::saveAsProject1(std::function<void()> then) {
                      });
 }
 
-void AppDelegate::writePackage(const QString& path, bool saveAs, std::function<void()> then) {
+ProjectDocument AppDelegate::currentDocument() {
     const DocumentSettings& settings = editor_->document();
-    const ProjectDocument document =
-        projectDocument(sceneview().scene(), state_.planetArray, settings.width, settings.height,
-                        settings.background, state_.lightColor);
+    return projectDocument(sceneview().scene(), state_.planetArray, settings.width, settings.height,
+                           settings.background, state_.lightColor);
+}
+
+void AppDelegate::writePackage(const QString& path, bool saveAs, std::function<void()> then) {
+    const ProjectDocument document = currentDocument();
     const std::string target = path.toStdString();
     runWithProgress<WorkResult>(
         *mainWindow_, text("saveDocumentLabel"),
@@ -207,7 +211,7 @@ void AppDelegate::openProject2(const QString& path) {
         *mainWindow_, text("openDocMessageLabel"),
         [source] {
             WorkResult result;
-            result.ok = readProjectPackage(source, result.project, result.error);
+            result.ok = readSystem(source, result.project, result.error);
             if (result.ok)
                 result.planetNodes = packagePlanetNodes(result.project.planets);
             return result;
@@ -246,8 +250,14 @@ void AppDelegate::openProject3(const QString& path, OpenedProject& project,
     popOver4_->colorWell4().setColor(state_.lightColor);
     replacePlanets(std::move(oldNodes), std::move(project.planets));
 
-    state_.projectpath = path.toStdString();
-    document_->opened(state_.projectpath);
+    // A picture is only read: the system it carries gets a package name at its first save.
+    if (QFileInfo(path).isDir()) {
+        state_.projectpath = path.toStdString();
+        document_->opened(state_.projectpath);
+    } else {
+        state_.projectpath.clear();
+        document_->openedPicture();
+    }
     menus_.fileSave->setEnabled(true);
     focusTable();
 }

@@ -4,6 +4,9 @@
 #include "core/app/AppPaths.h"
 #include "core/export/ExportChoices.h"
 #include "core/export/ExportPicture.h"
+#include "core/export/SceneModel.h"
+#include "core/package/EmbeddedSystem.h"
+#include "core/package/ProjectSettings.h"
 #include "core/settings/SettingsReaders.h"
 #include "customWin/AppDelegate.h"
 #include "customWin/ExportAccessories.h"
@@ -14,6 +17,8 @@
 #include "customWin/mainWindow.h"
 #include "customWin/sceneView.h"
 #include "imageio/ImageFile.h"
+#include "imageio/SurfaceLibrary.h"
+#include "scene3d/GltfScene.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -107,10 +112,14 @@ void AppDelegate::exportPicture(const QString& path, ExportFormat format, bool w
         }
         Image picture =
             orrery::exportPicture(std::move(*scene), state_.currentBackground, withBackground);
+        // The picture carries the system it shows, so that it opens again as that system.
+        std::vector<PictureText> system =
+            systemTextFields(openedProject(currentDocument()), format);
         runWithProgress<std::string>(
             progress, *mainWindow_,
-            [picture = std::move(picture), target = path.toStdString(), format, compression] {
-                return imageio::writeImageFile(picture, target, format, compression);
+            [picture = std::move(picture), target = path.toStdString(), format, compression,
+             system = std::move(system)] {
+                return imageio::writeImageFile(picture, target, format, compression, system);
             },
             [this](std::string& failure) {
                 loadMenuStatus();
@@ -119,6 +128,37 @@ void AppDelegate::exportPicture(const QString& path, ExportFormat format, bool w
                     showFailure(text("exportFailedMsg"), failure);
             });
     });
+}
+
+void AppDelegate::exportScene() {
+    saveMenuStatus();
+    const QString folder =
+        QString::fromStdString(exportFolder(settings_.preferenceArray, documentsFolder()).string());
+    savePicturePanel(
+        *mainWindow_, folder,
+        {text("exportSceneTitle"), text("exportSceneMessage"), text("exportImageUntitleFileName")},
+        QStringLiteral("glb"), nullptr, [this](const QString& path) {
+            loadMenuStatus();
+            if (path.isEmpty())
+                return;
+            SceneModel model = sceneModel(sceneview().scene(), state_.planetArray.records(),
+                                          shownDocument_.height);
+            model.aspectRatio = static_cast<double>(shownDocument_.width) / shownDocument_.height;
+            runWithProgress<std::string>(
+                *mainWindow_, text("exportSceneSaving"),
+                [model = std::move(model), target = path.toStdString()] {
+                    const imageio::SurfaceLibrary surfaces;
+                    return scene3d::writeGltfScene(model, target, [&](const std::string& name) {
+                        return surfaces.surfaceNamed(name);
+                    });
+                },
+                [this, path](std::string& failure) {
+                    focusTable();
+                    if (!failure.empty())
+                        showFailure(text("exportSceneFailedMsg"),
+                                    path.toStdString() + ": " + failure);
+                });
+        });
 }
 
 } // namespace orrery::window

@@ -82,6 +82,7 @@ void AppDelegate::connectMenuActions() {
     connect(m.planetDelete, &QAction::triggered, this, &AppDelegate::deletPlanet1);
     connect(m.fileExport, &QAction::triggered, this, &AppDelegate::FileExport1);
     connect(m.fileExportAnimation, &QAction::triggered, this, &AppDelegate::FileExportAnimation);
+    connect(m.fileExportScene, &QAction::triggered, this, &AppDelegate::exportScene);
     connect(m.filePrint, &QAction::triggered, this, &AppDelegate::printPlain);
     connect(m.filePrintsetup, &QAction::triggered, this, &AppDelegate::pageSetup);
     connect(m.appPreferences, &QAction::triggered, this, &AppDelegate::openPreferences);

@@ -122,7 +122,8 @@ void AppDelegate::afterCellEdit(CellOutcome outcome) {
 
 // Every refusal shows the status line for three seconds of its own; an earlier timer is
 // not cancelled, so the line hides three seconds after the first of quick refusals.
-void AppDelegate::showStatus() {
+void AppDelegate::showStatus(const QString& line) {
+    planetPanel().statusLabel1().setText(line.isEmpty() ? text("invalidValueStatus") : line);
     planetPanel().statusLabel1().show();
     QTimer::singleShot(kStatusMs, this, [this] { planetPanel().statusLabel1().hide(); });
 }
@@ -150,6 +151,7 @@ void AppDelegate::planetDeletionSelection() {
 void AppDelegate::validateExport() {
     const bool shown = canExport(state_.planetArray);
     menus_.fileExport->setEnabled(shown);
+    menus_.fileExportScene->setEnabled(shown);
     planetPanel().exportButton1().setEnabled(shown);
 }
 

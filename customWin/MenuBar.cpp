@@ -44,6 +44,9 @@ void buildFileMenu(QMenuBar& bar, MenuItems& m) {
     m.fileExportAnimation->setEnabled(m.fileExport->isEnabled());
     QObject::connect(m.fileExport, &QAction::enabledChanged, m.fileExportAnimation,
                      &QAction::setEnabled);
+    m.fileExportScene = addItem(*m.fileMenu, "fileExportScene");
+    m.fileExportPlanets = addItem(*m.fileMenu, "fileExportPlanets");
+    m.fileImportPlanets = addItem(*m.fileMenu, "fileImportPlanets");
     m.fileMenu->addSeparator();
     m.filePrintsetup = addItem(*m.fileMenu, "filePrintsetup");
     m.filePrint = addItem(*m.fileMenu, "filePrint", QKeySequence::Print);
@@ -162,7 +165,10 @@ QList<QAction*> MenuItems::guardedItems() const {
             sceneColorItems[2],
             sceneColorItems[3],
             sceneColorItems[4],
-            sceneColorItems[5]};
+            sceneColorItems[5],
+            fileExportScene,
+            fileExportPlanets,
+            fileImportPlanets};
 }
 
 MenuItems buildMenuBar(QMenuBar& bar) {
@@ -202,6 +208,9 @@ void makeNSMenu(const MenuItems& m, const QString& appName) {
         {m.fileSaveAs, "makeMenuFileSaveAs"},
         {m.fileExport, "makeMenuFileExport"},
         {m.fileExportAnimation, "makeMenuFileExportAnimation"},
+        {m.fileExportScene, "makeMenuFileExportScene"},
+        {m.fileExportPlanets, "makeMenuFileExportPlanets"},
+        {m.fileImportPlanets, "makeMenuFileImportPlanets"},
         {m.filePrintsetup, "makeMenuFilePrintsetup"},
         {m.filePrint, "makeMenuFilePrint"},
         {m.editUndo, "makeMenuEditUndo"},

@@ -34,6 +34,9 @@ struct MenuItems {
     QAction* fileSaveAs = nullptr;
     QAction* fileExport = nullptr;
     QAction* fileExportAnimation = nullptr; // enabled whenever fileExport is
+    QAction* fileExportScene = nullptr;
+    QAction* fileExportPlanets = nullptr;
+    QAction* fileImportPlanets = nullptr;
     QAction* filePrintsetup = nullptr;
     QAction* filePrint = nullptr;
 

@@ -1,6 +1,7 @@
 #include "customWin/PackageDialogs.h"
 
 #include "core/app/SaveTarget.h"
+#include "core/package/SystemSource.h"
 #include "customWin/Sheet.h"
 #include "customWin/Strings.h"
 
@@ -54,6 +55,8 @@ public:
     }
 
     const QString& choice() const { return choice_; }
+    // A second extension a save keeps when the typed name ends in it.
+    void allowExtension(QString extension) { otherExtension_ = std::move(extension); }
     // Open and save panels of packages, rather than of pictures or folders.
     bool choosesPackages() const {
         return acceptMode() == AcceptSave ? extension_ == QLatin1String(kPackageSuffix)
@@ -71,8 +74,12 @@ public:
     void accept() override {
         const QString typed = selectedFiles().value(0);
         if (acceptMode() == AcceptSave && !typed.isEmpty()) {
+            const bool other =
+                !otherExtension_.isEmpty() &&
+                QFileInfo(typed).suffix().compare(otherExtension_, Qt::CaseInsensitive) == 0;
+            const QString extension = other ? otherExtension_ : extension_;
             const auto target =
-                saveTarget(typed.toStdString(), extension_.toStdString(), kPackageSuffix);
+                saveTarget(typed.toStdString(), extension.toStdString(), kPackageSuffix);
             choose(QString::fromStdString(target.string()));
         } else if (choosesPackages() && isPackage(typed)) {
             choose(typed);
@@ -92,6 +99,7 @@ private:
     }
 
     QString extension_;
+    QString otherExtension_;
     QString choice_;
 };
 
@@ -130,13 +138,22 @@ QString packageFilter() {
     return QStringLiteral("*.%1").arg(QLatin1String(kPackageSuffix));
 }
 
+// Packages, and the pictures that carry the system they show.
+QString openFilter() {
+    QString filter = packageFilter();
+    for (std::string_view extension : kSystemPictureExtensions)
+        filter += QStringLiteral(" *.") + QString::fromUtf8(extension.data(), extension.size());
+    return filter;
+}
+
 } // namespace
 
 void openPackagePanel(QWidget& window, const QString& folder, const PanelTexts& texts,
                       std::function<void(const QString&)> chosen) {
     auto* panel = new DocumentPanel(window, folder, texts, QFileDialog::AcceptOpen, {});
-    panel->setFileMode(QFileDialog::Directory);
-    panel->setNameFilter(packageFilter());
+    // Pictures are files; packages are folders, chosen as the panel enters them.
+    panel->setFileMode(QFileDialog::ExistingFile);
+    panel->setNameFilter(openFilter());
     finishWith(panel, std::move(chosen));
 }
 
@@ -158,6 +175,25 @@ void savePicturePanel(QWidget& window, const QString& folder, const PanelTexts& 
     if (accessory != nullptr)
         panel->addRow(accessory);
     finishSaving(panel, window, std::move(chosen));
+}
+
+void savePlanetRowsPanel(QWidget& window, const QString& folder, const PanelTexts& texts,
+                         std::function<void(const QString&)> chosen) {
+    auto* panel =
+        new DocumentPanel(window, folder, texts, QFileDialog::AcceptSave, QStringLiteral("tsv"));
+    panel->allowExtension(QStringLiteral("csv"));
+    panel->setNameFilters({QStringLiteral("*.tsv"), QStringLiteral("*.csv")});
+    panel->selectFile(texts.suggestedName + QStringLiteral(".tsv"));
+    finishSaving(panel, window, std::move(chosen));
+}
+
+void openPlanetRowsPanel(QWidget& window, const QString& folder, const PanelTexts& texts,
+                         std::function<void(const QString&)> chosen) {
+    auto* panel = new DocumentPanel(window, folder, texts, QFileDialog::AcceptOpen, {});
+    panel->setObjectName(QStringLiteral("rowsPanel"));
+    panel->setFileMode(QFileDialog::ExistingFile);
+    panel->setNameFilter(QStringLiteral("*.tsv *.csv"));
+    finishWith(panel, std::move(chosen));
 }
 
 void chooseFolderPanel(QWidget& window, const QString& folder, const QString& title,

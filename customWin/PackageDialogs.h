@@ -30,6 +30,13 @@ void savePicturePanel(QWidget& window, const QString& folder, const PanelTexts& 
                       const QString& fileType, QWidget* accessory,
                       std::function<void(const QString&)> chosen);
 
+// Panels for a table of planets: saved as .tsv, or as .csv when that is typed or chosen;
+// opened from either.
+void savePlanetRowsPanel(QWidget& window, const QString& folder, const PanelTexts& texts,
+                         std::function<void(const QString&)> chosen);
+void openPlanetRowsPanel(QWidget& window, const QString& folder, const PanelTexts& texts,
+                         std::function<void(const QString&)> chosen);
+
 // A panel for choosing one folder (new folders can be made in it).
 void chooseFolderPanel(QWidget& window, const QString& folder, const QString& title,
                        std::function<void(const QString&)> chosen);

@@ -1,6 +1,7 @@
 #include "customWin/mainWindow.h"
 
 #include "core/app/DocumentArea.h"
+#include "core/package/SystemSource.h"
 #include "customWin/mainView.h"
 
 #include <QApplication>
@@ -100,7 +101,10 @@ QStringList packagesIn(const QMimeData* data) {
     QStringList paths;
     for (const QUrl& url : data->urls()) {
         const QFileInfo dropped(url.toLocalFile());
-        if (url.isLocalFile() && dropped.isDir() && dropped.suffix() == QLatin1String("kvx"))
+        const bool package = dropped.isDir() && dropped.suffix() == QLatin1String("kvx");
+        const bool picture =
+            dropped.isFile() && isSystemPictureName(dropped.fileName().toStdString());
+        if (url.isLocalFile() && (package || picture))
             paths.append(dropped.absoluteFilePath());
     }
     return paths;

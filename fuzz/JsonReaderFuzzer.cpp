@@ -3,8 +3,8 @@
 // package, so it must also come back unchanged through the package's encoders and decoders:
 // convert never writes a package that opening refuses. Crashes, hangs, leaks and unbounded
 // allocation are what the sanitizers and libFuzzer report.
-#include "cli/PackageJson.h"
 #include "core/package/LightColorArchive.h"
+#include "core/package/PackageJson.h"
 #include "core/package/PlanetArchive.h"
 #include "core/package/ProjectSettings.h"
 
@@ -61,7 +61,7 @@ void requireRoundTrip(const orrery::ProjectDocument& document) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     std::string error;
     const std::optional<orrery::ProjectDocument> document =
-        orrery::cli::documentFromJsonText({reinterpret_cast<const char*>(data), size}, error);
+        orrery::documentFromJsonText({reinterpret_cast<const char*>(data), size}, error);
     if (document)
         requireRoundTrip(*document);
     else

@@ -5,6 +5,7 @@
 #include "imageio/Jpeg2000Decoder.h"
 #include "imageio/QtImageEncoder.h"
 #include "imageio/QtImageWrap.h"
+#include "imageio/TiffDescription.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -22,11 +23,22 @@ constexpr qint64 kMaxFileSize = qint64{1} << 30;
 } // namespace
 
 std::string writeImageFile(const Image& image, const std::string& path, ExportFormat format,
-                           float compression) {
+                           float compression, const std::vector<PictureText>& texts) {
+    // Qt's TIFF writer keeps no text: such a picture is encoded in memory and given its
+    // description there. A TIFF has one description, which holds the first field.
+    if (format == ExportFormat::tiff && !texts.empty()) {
+        EncodedImage encoded = encodeWithQt(image, format, compression);
+        if (!encoded.ok())
+            return encoded.error;
+        if (!setTiffDescription(encoded.bytes, texts.front().key + ": " + texts.front().value))
+            return "the picture's description cannot be written";
+        return writeFileAtomically(path, encoded.bytes);
+    }
     // Qt's writers stream into the file: a poster is never held encoded in memory as well.
     if (writtenByQt(format))
-        return writeFileAtomically(
-            path, [&](QIODevice& file) { return writeWithQt(image, format, compression, file); });
+        return writeFileAtomically(path, [&](QIODevice& file) {
+            return writeWithQt(image, format, compression, file, texts);
+        });
     const EncodedImage encoded = encodeImage(image, format, compression);
     if (!encoded.ok())
         return encoded.error;

@@ -35,7 +35,7 @@ bool writtenByQt(ExportFormat format) {
 }
 
 std::string writeWithQt(const Image& image, ExportFormat format, float compression,
-                        QIODevice& device) {
+                        QIODevice& device, const std::vector<PictureText>& texts) {
     const char* name = qtFormatName(format);
     if (name == nullptr)
         return "this format is not written by Qt";
@@ -46,7 +46,12 @@ std::string writeWithQt(const Image& image, ExportFormat format, float compressi
         writer.setQuality(static_cast<int>(std::lround(std::clamp(compression, 0.0f, 1.0f) * 100)));
     if (format == ExportFormat::tiff)
         writer.setCompression(1); // LZW: lossless, and a quarter of the raw size for a scene
-    if (!writer.write(wrapImage(image)))
+    // Qt's writers take the image's own texts as they are; QImageWriter::setText would
+    // fold the white space inside them.
+    QImage picture = wrapImage(image);
+    for (const PictureText& field : texts)
+        picture.setText(QString::fromStdString(field.key), QString::fromStdString(field.value));
+    if (!writer.write(picture))
         return writer.errorString().toStdString();
     return {};
 }
@@ -60,11 +65,13 @@ std::string writeFramePng(const Image& image, QIODevice& device) {
     return {};
 }
 
-EncodedImage encodeWithQt(const Image& image, ExportFormat format, float compression) {
+EncodedImage encodeWithQt(const Image& image, ExportFormat format, float compression,
+                          const std::vector<PictureText>& texts) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    if (std::string failure = writeWithQt(image, format, compression, buffer); !failure.empty())
+    if (std::string failure = writeWithQt(image, format, compression, buffer, texts);
+        !failure.empty())
         return EncodedImage::failure(std::move(failure));
     return {{bytes.begin(), bytes.end()}, {}};
 }

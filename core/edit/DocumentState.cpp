@@ -20,6 +20,12 @@ void DocumentState::opened(std::string path) {
     history_.clear();
 }
 
+void DocumentState::openedPicture() {
+    path_.clear();
+    named_ = false;
+    history_.clear();
+}
+
 void DocumentState::cleared() {
     named_ = false;
     history_.clear();

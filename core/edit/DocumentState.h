@@ -28,6 +28,9 @@ public:
     void saved(std::string path);
     // The system was read from `path`: a history of its own, nothing modified.
     void opened(std::string path);
+    // The system was read from a picture: a history of its own, and no package yet, so
+    // that Save asks for a name rather than writing over the last package.
+    void openedPicture();
     // New: an empty system with nothing to undo; Save still writes over the last package.
     void cleared();
 

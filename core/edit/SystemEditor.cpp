@@ -126,6 +126,24 @@ std::size_t SystemEditor::createPlanet(std::string tsecs, std::string name) {
     return row;
 }
 
+void SystemEditor::appendPlanets(const std::vector<PlanetRecord>& planets) {
+    if (planets.empty())
+        return;
+    EditStep step{.kind = EditKind::create};
+    for (const PlanetRecord& record : planets) {
+        const std::string& tsecs = record.tsecs;
+        step.nodes.push_back({tsecs, scene_.capturePlanet(tsecs), {}});
+        step.records.push_back({planets_.size(), std::nullopt, record});
+        planets_.append(record);
+        scene_.createPlanet2(tsecs, record.color, integerValue(record.styleindex),
+                             integerValue(record.surfaceindex), record.xvalue, record.yvalue,
+                             record.zvalue, record.radius);
+        scene_.updateStatus(tsecs, integerValue(record.state));
+        step.nodes.back().after = scene_.capturePlanet(tsecs);
+    }
+    history_.record(std::move(step));
+}
+
 bool SystemEditor::deletePlanet(std::optional<std::size_t> row) {
     if (!inRange(row, planets_))
         return false;

@@ -45,6 +45,9 @@ public:
 
     // A new planet named as typed, appended as the last row, and its node.
     std::size_t createPlanet(std::string tsecs, std::string name);
+    // Planets with their own values (and identities), appended as the last rows with their
+    // nodes: one step to undo, however many.
+    void appendPlanets(const std::vector<PlanetRecord>& planets);
     // Removes the row's record and every node with its tsecs; false without a row.
     bool deletePlanet(std::optional<std::size_t> row);
     // Every record's state "1" or "0", every planet shown or hidden.

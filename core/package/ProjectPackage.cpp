@@ -63,9 +63,7 @@ bool readProjectPackage(const fs::path& path, OpenedProject& project, std::strin
                           error);
     if (!read)
         return false;
-    opened.checks = checkProjectSettings(opened.settings);
-    opened.orthographic = opened.settings[setting::orthographic] == "1";
-    opened.zRange = opened.settings[setting::zRange] == "1";
+    checkOpenedSettings(opened);
     project = std::move(opened);
     return true;
 }

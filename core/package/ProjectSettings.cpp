@@ -120,4 +120,22 @@ ProjectChecks checkProjectSettings(const std::array<std::string, setting::readCo
     return checks;
 }
 
+void checkOpenedSettings(OpenedProject& project) {
+    project.checks = checkProjectSettings(project.settings);
+    project.orthographic = project.settings[setting::orthographic] == "1";
+    project.zRange = project.settings[setting::zRange] == "1";
+}
+
+OpenedProject openedProject(const ProjectDocument& document) {
+    OpenedProject project;
+    const std::vector<std::string> settings = projectSettingsList(document);
+    std::copy_n(settings.begin(), setting::readCount, project.settings.begin());
+    checkOpenedSettings(project);
+    project.lightColor = document.lightColor;
+    project.planets = document.planets;
+    for (PlanetRecord& planet : project.planets)
+        planet.reserved.fill("0");
+    return project;
+}
+
 } // namespace orrery

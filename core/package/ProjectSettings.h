@@ -30,4 +30,10 @@ bool isPackageHeight(const std::string& text);
 // The checks opening runs on elements 0 to 12.
 ProjectChecks checkProjectSettings(const std::array<std::string, setting::readCount>& settings);
 
+// Fills in the checks and the camera switches from `project.settings`, as opening does.
+void checkOpenedSettings(OpenedProject& project);
+
+// What opening a package written from `document` gives, without the package.
+OpenedProject openedProject(const ProjectDocument& document);
+
 } // namespace orrery

@@ -1,5 +1,6 @@
 #include "customWin/tableView1/MetalPopupButton.h"
 
+#include "core/styles/StyleChoices.h"
 #include "core/styles/SurfaceNames.h"
 #include "customWin/Strings.h"
 #include "customWin/tableView1/ChoiceGridKeys.h"
@@ -17,7 +18,6 @@ namespace orrery::window {
 namespace {
 
 constexpr int kMenuPicture = 64;
-constexpr int kStyleChoices = 82;
 constexpr int kCellPicture = 16;
 constexpr int kStyleColumns = 10;
 constexpr int kSurfaceColumns = 6;

@@ -1398,5 +1398,80 @@
         <extracomment>GIF palette choice: the same 256 colours in every frame (steadier, slower).</extracomment>
         <translation>Eine Palette für den ganzen Umlauf</translation>
     </message>
+    <message id="makeMenuFileExportPlanets">
+        <source>Export Planets…</source>
+        <extracomment>File menu: writes the planet table to a .tsv or .csv file for spreadsheets.</extracomment>
+        <translation>Planeten exportieren …</translation>
+    </message>
+    <message id="makeMenuFileImportPlanets">
+        <source>Import Planets…</source>
+        <extracomment>File menu: adds the planets of a .tsv or .csv file.</extracomment>
+        <translation>Planeten importieren …</translation>
+    </message>
+    <message id="exportPlanetsTitle">
+        <source>Export Planets</source>
+        <extracomment>Title of the save panel of Export Planets.</extracomment>
+        <translation>Planeten exportieren</translation>
+    </message>
+    <message id="exportPlanetsMessage">
+        <source>Save the planets as a table for spreadsheets: .tsv (tabs) or .csv (commas).</source>
+        <extracomment>Message of the save panel of Export Planets.</extracomment>
+        <translation>Die Planeten als Tabelle für Tabellenkalkulationen sichern: .tsv (Tabulatoren) oder .csv (Kommas).</translation>
+    </message>
+    <message id="exportPlanetsFile">
+        <source>Planets</source>
+        <extracomment>Suggested file name of Export Planets.</extracomment>
+        <translation>Planeten</translation>
+    </message>
+    <message id="importPlanetsTitle">
+        <source>Import Planets</source>
+        <extracomment>Title of the open panel of Import Planets.</extracomment>
+        <translation>Planeten importieren</translation>
+    </message>
+    <message id="importPlanetsMessage">
+        <source>Choose a table of planets (.tsv or .csv); its planets are added.</source>
+        <extracomment>Message of the open panel of Import Planets.</extracomment>
+        <translation>Eine Tabelle mit Planeten wählen (.tsv oder .csv); ihre Planeten werden hinzugefügt.</translation>
+    </message>
+    <message id="exportPlanetsFailedMsg">
+        <source>The planets could not be exported.</source>
+        <extracomment>Alert after a failed Export Planets; the reason follows.</extracomment>
+        <translation>Die Planeten konnten nicht exportiert werden.</translation>
+    </message>
+    <message id="importPlanetsFailedMsg">
+        <source>The planets could not be imported.</source>
+        <extracomment>Alert after a failed Import Planets; the reason follows.</extracomment>
+        <translation>Die Planeten konnten nicht importiert werden.</translation>
+    </message>
+    <message id="rowsRefusedStatus">
+        <source>Rows refused: %1</source>
+        <extracomment>Status label after a paste or import. %1 lists each refused row's number and the column that failed, such as 3 (radius).</extracomment>
+        <translation>Abgelehnte Zeilen: %1</translation>
+    </message>
+    <message id="makeMenuFileExportScene">
+        <source>Export Scene…</source>
+        <extracomment>File menu: writes the scene as a glTF file (.glb) for 3D programs.</extracomment>
+        <translation>Szene exportieren …</translation>
+    </message>
+    <message id="exportSceneTitle">
+        <source>Export Scene</source>
+        <extracomment>Title of the save panel of Export Scene.</extracomment>
+        <translation>Szene exportieren</translation>
+    </message>
+    <message id="exportSceneMessage">
+        <source>Save the scene for 3D programs as glTF (.glb): the planets, the camera and the light.</source>
+        <extracomment>Message of the save panel of Export Scene.</extracomment>
+        <translation>Die Szene für 3D-Programme als glTF (.glb) sichern: die Planeten, die Kamera und das Licht.</translation>
+    </message>
+    <message id="exportSceneSaving">
+        <source>Saving the scene…</source>
+        <extracomment>Progress sheet while the scene is written.</extracomment>
+        <translation>Die Szene wird gesichert …</translation>
+    </message>
+    <message id="exportSceneFailedMsg">
+        <source>The scene could not be exported.</source>
+        <extracomment>Alert after a failed Export Scene; the reason follows.</extracomment>
+        <translation>Die Szene konnte nicht exportiert werden.</translation>
+    </message>
 </context>
 </TS>

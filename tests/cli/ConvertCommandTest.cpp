@@ -7,17 +7,11 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 
 namespace orrery::testing {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string fileText(const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
 
 std::string in(const QTemporaryDir& folder, const char* name) {
     return folder.filePath(name).toStdString();

@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <fstream>
+#include <iterator>
 
 namespace orrery::testing {
 
@@ -47,6 +49,11 @@ ProjectDocument sampleDocument(long background) {
 void writePackage(const std::string& path, const ProjectDocument& document) {
     std::string error;
     ASSERT_TRUE(writeProjectPackage(path, document, error)) << error;
+}
+
+std::string fileText(const std::filesystem::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
 } // namespace orrery::testing

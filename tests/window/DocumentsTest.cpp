@@ -9,16 +9,20 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
+#include <QDropEvent>
 #include <QFileDialog>
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QWindow>
 
 namespace orrery::window::testing {
 
@@ -143,6 +147,50 @@ private slots:
         delegate.menus().fileSave->trigger();
         QTRY_VERIFY((panel = qobject_cast<QFileDialog*>(visibleTopLevel("savePanel"))) != nullptr);
         panel->reject();
+    }
+
+    void aPictureOpensAsItsSystemAndSaveAsksForAName() {
+        const QString package = folder_.filePath(QStringLiteral("Earth.kvx"));
+        const QString picture = folder_.filePath(QStringLiteral("Earth.png"));
+        runOrrery({"convert", QStringLiteral(ORRERY_SOURCE_DIR "/examples/earth-and-moon.json"),
+                   package});
+        runOrrery({"render", package, "-o", picture});
+        const QByteArray before = contents(picture);
+        QVERIFY(!before.isEmpty());
+        AppDelegate& delegate = app();
+        delegate.menus().fileOpen->trigger();
+        chooseInNextPanel("openPanel", picture);
+        QTRY_COMPARE(delegate.tableView1().model()->rowCount(), 2);
+        QCOMPARE(delegate.tableView1().model()->index(0, 0).data().toString(),
+                 QStringLiteral("Earth"));
+        QCOMPARE(delegate.state().currentBackground, 2L);
+        QCOMPARE(child<QLabel>(delegate.window(), "titleLabel0").text(),
+                 QCoreApplication::applicationName());
+        QCOMPARE(contents(picture), before);
+        // The picture is no package: Save asks for a name.
+        delegate.menus().fileSave->trigger();
+        QFileDialog* panel = nullptr;
+        QTRY_VERIFY((panel = qobject_cast<QFileDialog*>(visibleTopLevel("savePanel"))) != nullptr);
+        panel->reject();
+
+        // A picture that carries no system, dropped on the window, is refused in one line.
+        const QString plain = folder_.filePath(QStringLiteral("Plain.png"));
+        QVERIFY(QImage(8, 8, QImage::Format_ARGB32).save(plain));
+        QMimeData mime;
+        mime.setUrls({QUrl::fromLocalFile(plain)});
+        // Through the native window, as a drag from a file manager arrives.
+        QWindow* target = delegate.window().windowHandle();
+        QDragEnterEvent enter(QPoint(20, 20), Qt::CopyAction, &mime, Qt::LeftButton,
+                              Qt::NoModifier);
+        QApplication::sendEvent(target, &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(QPointF(20, 20), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(target, &drop);
+        QWidget* alert = nullptr;
+        QTRY_VERIFY((alert = visibleTopLevel("questionSheet")) != nullptr);
+        QCOMPARE(static_cast<QMessageBox*>(alert)->informativeText(),
+                 plain + QStringLiteral(": this picture carries no system"));
+        QCOMPARE(delegate.tableView1().model()->rowCount(), 2);
     }
 
 private:

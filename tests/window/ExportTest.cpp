@@ -1,4 +1,7 @@
 #include "core/export/ExportPicture.h"
+#include "core/export/PackageScene.h"
+#include "core/package/EmbeddedSystem.h"
+#include "core/package/ProjectSettings.h"
 #include "customWin/AnimationPreview.h"
 #include "customWin/mainWindow.h"
 #include "customWin/sceneView.h"
@@ -57,6 +60,17 @@ private slots:
         QCOMPARE(written.size(), QSize(960, 540));
         QCOMPARE(written.pixelColor(0, 0).alpha(), 0);
         QCOMPARE(written.pixelColor(480, 270).alpha(), 255);
+        // The picture carries the system it shows.
+        QVERIFY(runOrrery({"info", png}).contains("\"name\": \"Subject\""));
+    }
+
+    void theSceneLeavesAsGlb() {
+        QTemporaryDir folder;
+        const QString scene = folder.filePath(QStringLiteral("Subject.glb"));
+        app().menus().fileExportScene->trigger();
+        chooseInNextPanel("savePanel", scene);
+        QTRY_VERIFY(contents(scene).startsWith("glTF"));
+        QVERIFY(contents(scene).contains("\"name\":\"Subject\""));
     }
 
     void compressionZeroWritesAJpegAtEightyFive() {
@@ -71,8 +85,14 @@ private slots:
             app().sceneview().imageFromSceneKitView(app().sceneview().size());
         QVERIFY(scene.has_value());
         const QString expected = folder_.filePath(QStringLiteral("expected.jpg"));
-        QCOMPARE(imageio::writeImageFile(exportPicture(*scene, 2, true), expected.toStdString(),
-                                         ExportFormat::jpeg, 0.85f),
+        // The same picture, carrying the same system.
+        const DocumentSettings& settings = app().editor().document();
+        const ProjectDocument system =
+            projectDocument(app().sceneview().scene(), app().state().planetArray, settings.width,
+                            settings.height, settings.background, app().state().lightColor);
+        QCOMPARE(imageio::writeImageFile(
+                     exportPicture(*scene, 2, true), expected.toStdString(), ExportFormat::jpeg,
+                     0.85f, systemTextFields(openedProject(system), ExportFormat::jpeg)),
                  std::string());
         QCOMPARE(contents(jpeg), contents(expected));
     }

@@ -9,11 +9,13 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
 
@@ -145,6 +147,64 @@ private slots:
         app().menus().editRedo->trigger();
         QCOMPARE(record(0).xvalue, std::string("-200"));
         QCOMPARE(app().tableView1().model()->index(0, 4).data().toString(), QStringLiteral("-200"));
+    }
+
+    void rowsCopyAndPasteBackAndRefusedRowsAreNamed() {
+        AppDelegate& delegate = app();
+        createPlanets(2);
+        delegate.editor().editText(1, PlanetKey::name, "Comma, \"quoted\"");
+        delegate.editor().editText(1, PlanetKey::radius, "12.5");
+        delegate.editor().editColor(1, {0.3, 0.6, 0.9, 1.0});
+        delegate.reloadPlanets();
+        PlanetTable& table = delegate.tableView1();
+        table.selectRow(1);
+        table.setFocus();
+        QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
+        QVERIFY(QApplication::clipboard()->text().startsWith(
+            QStringLiteral("name\tshown\tstyle\tsurface\tx\ty\tz\tradius\tcolour\n")));
+        QTest::keyClick(&table, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(table.model()->rowCount(), 3);
+        PlanetRecord pasted = record(2);
+        QVERIFY(pasted.tsecs != record(1).tsecs);
+        pasted.tsecs = record(1).tsecs;
+        QCOMPARE(pasted, record(1));
+
+        // A spreadsheet's rows: the bad one is named, the others added, one undo takes both.
+        QApplication::clipboard()->setText(QStringLiteral("Name\tRadius\nIo\t3\nBad\t-5\n"
+                                                          "Europa\t2\n"));
+        QTest::keyClick(&table, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(table.model()->rowCount(), 5);
+        QCOMPARE(record(4).name, std::string("Europa"));
+        auto& status = child<QLabel>(delegate.window(), "statusLabel1");
+        QVERIFY(status.isVisible());
+        QCOMPARE(status.text(), QStringLiteral("Rows refused: 3 (radius)"));
+        delegate.menus().editUndo->trigger();
+        QCOMPARE(table.model()->rowCount(), 3);
+
+        // In a text field, Paste stays the field's own.
+        QApplication::clipboard()->setText(QStringLiteral("Titan"));
+        table.selectRow(1);
+        auto* name = qobject_cast<QLineEdit*>(table.control(PlanetColumn::name));
+        QVERIFY(name != nullptr);
+        name->setFocus();
+        name->selectAll();
+        QTest::keyClick(name, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(name->text(), QStringLiteral("Titan"));
+        QCOMPARE(table.model()->rowCount(), 3);
+    }
+
+    void planetsExportAndImportAsCsv() {
+        AppDelegate& delegate = app();
+        createPlanets(2);
+        QTemporaryDir folder;
+        const QString file = folder.filePath(QStringLiteral("planets.csv"));
+        delegate.menus().fileExportPlanets->trigger();
+        chooseInNextPanel("savePanel", file);
+        QTRY_VERIFY(contents(file).startsWith("name,shown,style,surface,x,y,z,radius,colour\r\n"));
+        delegate.menus().fileImportPlanets->trigger();
+        chooseInNextPanel("rowsPanel", file);
+        QTRY_COMPARE(delegate.tableView1().model()->rowCount(), 4);
+        QCOMPARE(record(3).name, std::string("Planet 2"));
     }
 
 private:

@@ -114,8 +114,14 @@ void makeGuidePictures(window::AppDelegate& app, const QString& out, const QStri
     progress->end();
     saveAnimationSheet(app, dir);
 
-    QMenu& scene = *app.menus().sceneMenu;
     QMenuBar& bar = *window.findChild<QMenuBar*>(QStringLiteral("menuBar"));
+    QMenu& file = *app.menus().fileMenu;
+    file.popup(bar.mapToGlobal(bar.actionGeometry(file.menuAction()).bottomLeft()));
+    settle();
+    saveWindow(window, dir.filePath(QStringLiteral("file-menu.png")));
+    file.close();
+
+    QMenu& scene = *app.menus().sceneMenu;
     scene.popup(bar.mapToGlobal(bar.actionGeometry(scene.menuAction()).bottomLeft()));
     settle();
     app.menus().sceneColors->popup(

@@ -1,8 +1,8 @@
-#include "cli/JsonLayout.h"
+#include "core/package/JsonLayout.h"
 
 #include <algorithm>
 
-namespace orrery::cli {
+namespace orrery {
 namespace {
 
 using nlohmann::ordered_json;
@@ -56,4 +56,4 @@ std::string layOutJson(const ordered_json& value) {
     return out;
 }
 
-} // namespace orrery::cli
+} // namespace orrery

@@ -1,4 +1,4 @@
-#include "cli/PackageJson.h"
+#include "core/package/PackageJson.h"
 
 #include "core/model/TextNumber.h"
 #include "core/validate/Validators.h"
@@ -7,7 +7,7 @@
 #include <charconv>
 #include <string_view>
 
-namespace orrery::cli {
+namespace orrery {
 namespace {
 
 using nlohmann::json;
@@ -129,9 +129,18 @@ PlanetRecord planet(const json& value, const std::string& where) {
     return record;
 }
 
+std::vector<PlanetRecord> planetList(const json& root) {
+    const json& planets = member(root, "planets", "");
+    if (!planets.is_array())
+        throw Refusal{"planets must be a list"};
+    std::vector<PlanetRecord> records;
+    records.reserve(planets.size());
+    for (std::size_t i = 0; i < planets.size(); ++i)
+        records.push_back(planet(planets[i], "planets[" + std::to_string(i) + "]"));
+    return records;
+}
+
 ProjectDocument document(const json& root) {
-    if (!root.is_object())
-        throw Refusal{"the package must be a JSON object"};
     ProjectDocument doc;
     const json& size = objectMember(root, "document", "");
     doc.documentWidth = settingText(size, "width", "document");
@@ -151,12 +160,7 @@ ProjectDocument document(const json& root) {
         doc.lightPosition[i] = lightCoordinate(light, kLightKeys[i]);
     doc.lightColor = colour(light, "color", "light");
 
-    const json& planets = member(root, "planets", "");
-    if (!planets.is_array())
-        throw Refusal{"planets must be a list"};
-    doc.planets.reserve(planets.size());
-    for (std::size_t i = 0; i < planets.size(); ++i)
-        doc.planets.push_back(planet(planets[i], "planets[" + std::to_string(i) + "]"));
+    doc.planets = planetList(root);
     return doc;
 }
 
@@ -166,32 +170,11 @@ std::string plainMessage(const std::string& message) {
     return bracket == std::string::npos ? message : message.substr(bracket + 2);
 }
 
-} // namespace
-
-ordered_json packageJson(const OpenedProject& project, bool withChecks) {
-    const auto& s = project.settings;
-    ordered_json root = ordered_json::object();
-    root["document"] = {{"width", s[setting::width]}, {"height", s[setting::height]}};
-    root["background"] = s[setting::background];
-    ordered_json camera = ordered_json::object();
-    for (std::size_t i = 0; i < kCameraKeys.size(); ++i)
-        camera[kCameraKeys[i]] = s[setting::cameraXFov + i];
-    root["camera"] = camera;
-    ordered_json light = ordered_json::object();
-    for (std::size_t i = 0; i < kLightKeys.size(); ++i)
-        light[kLightKeys[i]] = s[setting::lightX + i];
-    light["color"] = colourJson(project.lightColor);
-    root["light"] = light;
-    ordered_json planets = ordered_json::array();
-    for (const PlanetRecord& record : project.planets)
-        planets.push_back(planetJson(record));
-    root["planets"] = std::move(planets);
-    if (withChecks)
-        root["checks"] = checksJson(project.checks);
-    return root;
-}
-
-std::optional<ProjectDocument> documentFromJsonText(std::string_view jsonText, std::string& error) {
+// Parses the text with a bound on its depth and reads it with `read`, which throws a
+// Refusal naming the value it cannot take.
+template <typename Read>
+auto readJsonText(std::string_view jsonText, std::string& error, Read read)
+    -> std::optional<decltype(read(json()))> {
     bool tooDeep = false;
     const json::parser_callback_t limitDepth = [&tooDeep](int depth, json::parse_event_t, json&) {
         tooDeep = tooDeep || depth > kMaxDepth;
@@ -211,11 +194,51 @@ std::optional<ProjectDocument> documentFromJsonText(std::string_view jsonText, s
         return std::nullopt;
     }
     try {
-        return document(root);
+        if (!root.is_object())
+            throw Refusal{"the package must be a JSON object"};
+        return read(root);
     } catch (const Refusal& refusal) {
         error = refusal.reason;
         return std::nullopt;
     }
 }
 
-} // namespace orrery::cli
+} // namespace
+
+ordered_json packageJson(const OpenedProject& project, bool withChecks) {
+    const auto& s = project.settings;
+    ordered_json root = ordered_json::object();
+    root["document"] = {{"width", s[setting::width]}, {"height", s[setting::height]}};
+    root["background"] = s[setting::background];
+    ordered_json camera = ordered_json::object();
+    for (std::size_t i = 0; i < kCameraKeys.size(); ++i)
+        camera[kCameraKeys[i]] = s[setting::cameraXFov + i];
+    root["camera"] = camera;
+    ordered_json light = ordered_json::object();
+    for (std::size_t i = 0; i < kLightKeys.size(); ++i)
+        light[kLightKeys[i]] = s[setting::lightX + i];
+    light["color"] = colourJson(project.lightColor);
+    root["light"] = light;
+    root["planets"] = planetsJson(project.planets)["planets"];
+    if (withChecks)
+        root["checks"] = checksJson(project.checks);
+    return root;
+}
+
+std::optional<ProjectDocument> documentFromJsonText(std::string_view jsonText, std::string& error) {
+    return readJsonText(jsonText, error, document);
+}
+
+ordered_json planetsJson(const std::vector<PlanetRecord>& planets) {
+    ordered_json list = ordered_json::array();
+    for (const PlanetRecord& record : planets)
+        list.push_back(planetJson(record));
+    return {{"planets", std::move(list)}};
+}
+
+std::optional<std::vector<PlanetRecord>> planetsFromJsonText(std::string_view text,
+                                                             std::string& error) {
+    return readJsonText(text, error, planetList);
+}
+
+} // namespace orrery

@@ -1,8 +1,8 @@
-#include "cli/JsonLayout.h"
+#include "core/package/JsonLayout.h"
 
 #include <gtest/gtest.h>
 
-namespace orrery::cli {
+namespace orrery {
 namespace {
 
 TEST(JsonLayout, PlainListsStayOnOneLine) {
@@ -37,4 +37,4 @@ TEST(JsonLayout, BrokenTextIsShownNotRefused) {
 }
 
 } // namespace
-} // namespace orrery::cli
+} // namespace orrery

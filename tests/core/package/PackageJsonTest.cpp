@@ -1,8 +1,8 @@
-#include "cli/PackageJson.h"
+#include "core/package/PackageJson.h"
 
 #include <gtest/gtest.h>
 
-namespace orrery::cli {
+namespace orrery {
 namespace {
 
 using nlohmann::json;
@@ -96,4 +96,4 @@ TEST(PackageJson, BrokenOrHostileJson) {
 }
 
 } // namespace
-} // namespace orrery::cli
+} // namespace orrery
