@@ -148,6 +148,9 @@ public:
     void FileExportAnimation();
     // File > Export Scene: the scene as a .glb for 3D tools.
     void exportScene();
+    // Where the panels that write pictures, scenes, animations and rows begin: the export
+    // folder of the preferences.
+    QString exportPanelFolder() const;
     void printPlain();
     void pageSetup();
     QPrinter& printer();

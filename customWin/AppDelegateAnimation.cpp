@@ -64,8 +64,7 @@ void AppDelegate::FileExportAnimation() {
 
 // The save panel adds the format's extension; frames go into a folder of their own.
 void AppDelegate::chooseAnimationFile(const AnimationChoices& choices) {
-    const QString folder =
-        QString::fromStdString(exportFolder(settings_.preferenceArray, documentsFolder()).string());
+    const QString folder = exportPanelFolder();
     const auto chosen = [this, choices](const QString& path) {
         if (path.isEmpty()) {
             loadMenuStatus();

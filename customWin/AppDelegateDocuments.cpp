@@ -133,8 +133,7 @@ void AppDelegate::saveProject1(std::function<void()> then) {
 // Save As starts in the export folder, where the pictures of the system go.
 void AppDelegate::saveAsProject1(std::function<void()> then) {
     saveMenuStatus();
-    const QString folder =
-        QString::fromStdString(exportFolder(settings_.preferenceArray, documentsFolder()).string());
+    const QString folder = exportPanelFolder();
     savePackagePanel(*mainWindow_, folder,
                      {textWith("saveDocumentMessage", appName_),
                       textWith("saveDocumentWindow", appName_), text("saveDocumentFile")},

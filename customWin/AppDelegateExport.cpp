@@ -71,8 +71,7 @@ void AppDelegate::FileExport2(bool withBackground) {
         compression = new accessoryView2();
         compression->compressSlider2().setValue(compressionPercent(settings_.preferenceArray));
     }
-    const QString folder =
-        QString::fromStdString(exportFolder(settings_.preferenceArray, documentsFolder()).string());
+    const QString folder = exportPanelFolder();
     savePicturePanel(
         *mainWindow_, folder,
         {text("exportImageTitle"), text("exportImageSelectFilePath"),
@@ -130,10 +129,14 @@ void AppDelegate::exportPicture(const QString& path, ExportFormat format, bool w
     });
 }
 
+QString AppDelegate::exportPanelFolder() const {
+    return QString::fromStdString(
+        exportFolder(settings_.preferenceArray, documentsFolder()).string());
+}
+
 void AppDelegate::exportScene() {
     saveMenuStatus();
-    const QString folder =
-        QString::fromStdString(exportFolder(settings_.preferenceArray, documentsFolder()).string());
+    const QString folder = exportPanelFolder();
     savePicturePanel(
         *mainWindow_, folder,
         {text("exportSceneTitle"), text("exportSceneMessage"), text("exportImageUntitleFileName")},

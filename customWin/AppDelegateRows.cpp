@@ -113,8 +113,7 @@ void AppDelegate::addPlanetRows(ReadRows rows) {
 
 void AppDelegate::exportPlanetRows() {
     saveMenuStatus();
-    const QString folder =
-        QString::fromStdString(exportFolder(settings_.preferenceArray, documentsFolder()).string());
+    const QString folder = exportPanelFolder();
     savePlanetRowsPanel(
         *mainWindow_, folder,
         {text("exportPlanetsTitle"), text("exportPlanetsMessage"), text("exportPlanetsFile")},
