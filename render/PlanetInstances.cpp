@@ -6,6 +6,7 @@
 #include <array>
 #include <bit>
 #include <cstdint>
+#include <limits>
 #include <variant>
 
 namespace orrery::render {
@@ -73,46 +74,17 @@ std::uint32_t farthestFirstKey(const PlanetInstance& planet) {
     return ~ascending;
 }
 
-// Farthest first, ties in scene order (the order of collection): a least-significant-digit
-// radix sort, stable and linear in the number of planets.
-void sortFarthestFirst(std::vector<PlanetInstance>& instances, std::vector<PlanetOrigin>& origins) {
-    struct Keyed {
-        std::uint32_t key;
-        std::uint32_t index;
-    };
-    std::vector<Keyed> order(instances.size());
-    for (std::size_t i = 0; i < instances.size(); ++i)
-        order[i] = {farthestFirstKey(instances[i]), static_cast<std::uint32_t>(i)};
-    std::vector<Keyed> sorted(order.size());
-    for (unsigned shift = 0; shift < 32; shift += 8) {
-        std::array<std::size_t, 257> start{};
-        for (const Keyed& k : order)
-            ++start[((k.key >> shift) & 0xFF) + 1];
-        for (std::size_t digit = 1; digit < start.size(); ++digit)
-            start[digit] += start[digit - 1];
-        for (const Keyed& k : order)
-            sorted[start[(k.key >> shift) & 0xFF]++] = k;
-        order.swap(sorted);
-    }
-    std::vector<PlanetInstance> arrangedInstances(instances.size());
-    std::vector<PlanetOrigin> arrangedOrigins(origins.size());
-    for (std::size_t i = 0; i < order.size(); ++i) {
-        arrangedInstances[i] = instances[order[i].index];
-        arrangedOrigins[i] = origins[order[i].index];
-    }
-    instances.swap(arrangedInstances);
-    origins.swap(arrangedOrigins);
-}
-
 struct Collection {
     Vec3 eye;
     const SurfaceLayerLookup& layerOf;
     std::vector<PlanetInstance>& instances;
     std::vector<PlanetOrigin>& origins;
+    std::size_t visited = 0;
 };
 
 void collect(const SceneNode& node, Vec3 origin, std::uint64_t branch, std::uint32_t& within,
              Collection& into) {
+    ++into.visited;
     if (node.isHidden())
         return;
     const Vec3 world = origin + node.position();
@@ -159,14 +131,54 @@ bool drawnBefore(const PlanetInstance& a, const PlanetOrigin& originA, const Pla
 void collectPlanetInstances(const SceneNode& root, Vec3 eye, const SurfaceLayerLookup& layerOf,
                             std::vector<PlanetInstance>& instances,
                             std::vector<PlanetOrigin>& origins) {
-    instances.clear();
-    origins.clear();
-    Collection into{eye, layerOf, instances, origins};
-    for (const auto& child : root.children()) {
+    PlanetCollection collection;
+    collection.begin(root, eye);
+    collection.step(layerOf, std::numeric_limits<std::size_t>::max());
+    collection.finish(instances, origins);
+}
+
+void PlanetCollection::begin(const SceneNode& root, Vec3 eye) {
+    root_ = &root;
+    next_ = root.children().begin();
+    eye_ = eye;
+    instances_.clear();
+    origins_.clear();
+}
+
+bool PlanetCollection::step(const SurfaceLayerLookup& layerOf, std::size_t nodes) {
+    Collection into{eye_, layerOf, instances_, origins_};
+    while (next_ != root_->children().end() && into.visited < nodes) {
+        const SceneNode& child = **next_++;
         std::uint32_t within = 0;
-        collect(*child, root.position(), child->siblingOrder(), within, into);
+        collect(child, root_->position(), child.siblingOrder(), within, into);
     }
-    sortFarthestFirst(instances, origins);
+    return next_ == root_->children().end();
+}
+
+// Farthest first, ties in scene order (the order of collection): a least-significant-digit
+// radix sort, stable and linear in the number of planets.
+void PlanetCollection::finish(std::vector<PlanetInstance>& instances,
+                              std::vector<PlanetOrigin>& origins) {
+    order_.resize(instances_.size());
+    for (std::size_t i = 0; i < instances_.size(); ++i)
+        order_[i] = {farthestFirstKey(instances_[i]), static_cast<std::uint32_t>(i)};
+    sorted_.resize(order_.size());
+    for (unsigned shift = 0; shift < 32; shift += 8) {
+        std::array<std::size_t, 257> start{};
+        for (const Keyed& k : order_)
+            ++start[((k.key >> shift) & 0xFF) + 1];
+        for (std::size_t digit = 1; digit < start.size(); ++digit)
+            start[digit] += start[digit - 1];
+        for (const Keyed& k : order_)
+            sorted_[start[(k.key >> shift) & 0xFF]++] = k;
+        order_.swap(sorted_);
+    }
+    instances.resize(order_.size());
+    origins.resize(order_.size());
+    for (std::size_t i = 0; i < order_.size(); ++i) {
+        instances[i] = instances_[order_[i].index];
+        origins[i] = origins_[order_[i].index];
+    }
 }
 
 std::optional<SceneLight> findLight(const SceneNode& root) {

@@ -52,6 +52,32 @@ void collectPlanetInstances(const SceneNode& root, Vec3 eye, const SurfaceLayerL
                             std::vector<PlanetInstance>& instances,
                             std::vector<PlanetOrigin>& origins);
 
+// collectPlanetInstances in steps, so that a window can take in a scene of 100,000 planets
+// over several frames and answer between them. The scene must not change from begin to the
+// last step. The memory of one collection serves the next.
+class PlanetCollection {
+public:
+    void begin(const SceneNode& root, Vec3 eye);
+    // Collects the planets below the root's next children, each child with everything below
+    // it, until at least `nodes` nodes were looked at; true once the whole scene is collected.
+    bool step(const SurfaceLayerLookup& layerOf, std::size_t nodes);
+    // After the last step: the planets in drawnBefore order, replacing the contents of both.
+    void finish(std::vector<PlanetInstance>& instances, std::vector<PlanetOrigin>& origins);
+
+private:
+    struct Keyed {
+        std::uint32_t key;
+        std::uint32_t index;
+    };
+    const SceneNode* root_ = nullptr;
+    SceneNode::ChildList::const_iterator next_;
+    Vec3 eye_;
+    std::vector<PlanetInstance> instances_; // in scene order
+    std::vector<PlanetOrigin> origins_;
+    std::vector<Keyed> order_; // the sort's two buffers
+    std::vector<Keyed> sorted_;
+};
+
 struct SceneLight {
     Vec3 position; // in scene coordinates
     Color color;

@@ -47,22 +47,29 @@ void PlanetList::changed(const PixelBox& area) {
            std::max(box.right, area.right), std::max(box.top, area.top)};
 }
 
-void PlanetList::rebuild(const SceneNode& root, Vec3 eye, const ScreenFrame& frame,
-                         const SurfaceLayerLookup& layerOf) {
-    std::vector<PlanetOrigin> origins;
-    collectPlanetInstances(root, eye, layerOf, instances_, origins);
+void PlanetList::beginRebuild(const SceneNode& root, Vec3 eye, const ScreenFrame& frame) {
+    collection_.begin(root, eye);
+    nextEye_ = eye;
+    nextFrame_ = frame;
+}
+
+bool PlanetList::continueRebuild(const SurfaceLayerLookup& layerOf, std::size_t nodes) {
+    if (!collection_.step(layerOf, nodes))
+        return false;
+    collection_.finish(instances_, collected_);
     entries_.clear();
     std::size_t kept = 0;
     for (std::size_t i = 0; i < instances_.size(); ++i) {
-        if (!showsOnScreen(instances_[i], frame))
+        if (!showsOnScreen(instances_[i], nextFrame_))
             continue;
         instances_[kept++] = instances_[i];
-        entries_.push_back({origins[i], reachOf(instances_[i], frame), kNotDrawn});
+        entries_.push_back({collected_[i], reachOf(instances_[i], nextFrame_), kNotDrawn});
     }
     instances_.resize(kept);
-    eye_ = eye;
-    frame_ = frame;
+    eye_ = nextEye_;
+    frame_ = nextFrame_;
     changedArea_ = kEverywhere;
+    return true;
 }
 
 bool PlanetList::patch(const SceneNode& root, const std::vector<SceneChange>& changes,

@@ -19,9 +19,11 @@ namespace orrery::render {
 // changed planet was or is.
 class PlanetList {
 public:
-    // Every planet of the scene that shows in the frame.
-    void rebuild(const SceneNode& root, Vec3 eye, const ScreenFrame& frame,
-                 const SurfaceLayerLookup& layerOf);
+    // Makes the list again of every planet of the scene that shows in the frame, in steps:
+    // each takes in about `nodes` more nodes of the scene, and the last, which returns true,
+    // replaces the list. Until then the list stays as it was, and the scene must not change.
+    void beginRebuild(const SceneNode& root, Vec3 eye, const ScreenFrame& frame);
+    bool continueRebuild(const SurfaceLayerLookup& layerOf, std::size_t nodes);
     // Redoes the planets of the changed nodes, for the eye and frame of the last rebuild.
     // False, with the list as it was, when a changed planet needs the whole scene looked at
     // again: a surface that `layerOf` has no layer for.
@@ -67,6 +69,10 @@ private:
 
     std::vector<PlanetInstance> instances_;
     std::vector<Entry> entries_; // beside instances_
+    PlanetCollection collection_;
+    std::vector<PlanetOrigin> collected_; // the origins of a rebuild, beside instances_
+    Vec3 nextEye_;
+    ScreenFrame nextFrame_;
     Vec3 eye_;
     ScreenFrame frame_;
     std::optional<PixelBox> changedArea_;

@@ -18,6 +18,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <utility>
 #include <vector>
 
@@ -29,6 +30,8 @@ constexpr GLuint kDrawnPixelsAttribute = 3;
 constexpr int kRampUnit = 0;
 constexpr int kSurfaceUnit = 1;
 constexpr int kNeededGlVersion = 33;
+// A frame of a spread redraw takes in this many nodes of the scene for each planet it draws.
+constexpr std::size_t kNodesPerPlanetDrawn = 5;
 // Pictures larger than this a side are drawn in tiles: what they need beyond the picture
 // itself stays the same, whatever their size.
 constexpr int kPictureTileSide = 2048;
@@ -93,6 +96,25 @@ private:
     std::size_t capacity_ = 0;
 };
 
+// What the planet data is made for: the scene as it stood, seen from an eye in a frame.
+struct ViewOfPlanets {
+    std::uint64_t sceneId = 0;
+    std::uint64_t revision = 0;
+    Vec3 eye;
+    ScreenFrame frame;
+
+    // The same scene seen the same way, whatever changed in it.
+    bool sameViewAs(const ViewOfPlanets& other) const {
+        return sceneId == other.sceneId && eye == other.eye &&
+               frame.ndcToRayX == other.frame.ndcToRayX &&
+               frame.ndcToRayY == other.frame.ndcToRayY && frame.width == other.frame.width &&
+               frame.height == other.frame.height;
+    }
+    bool operator==(const ViewOfPlanets& other) const {
+        return sameViewAs(other) && revision == other.revision;
+    }
+};
+
 // Which part of the canvas a frame drew again: nothing, a part, or all of it.
 struct DrawnArea {
     bool any = false;
@@ -114,8 +136,12 @@ public:
     bool build(std::string* error);
     bool render(const Scene& scene, const CameraProjection& camera, GLuint target, int width,
                 int height, bool overBackdrop, std::string* error);
-    void spreadRedraws(std::size_t planetsPerFrame) { strips.setPlanetsPerFrame(planetsPerFrame); }
-    bool drawsMore() const { return !strips.empty(); }
+    void spreadRedraws(std::size_t planetsPerFrame) {
+        strips.setPlanetsPerFrame(planetsPerFrame);
+        nodesPerFrame = planetsPerFrame > 0 ? planetsPerFrame * kNodesPerPlanetDrawn
+                                            : std::numeric_limits<std::size_t>::max();
+    }
+    bool drawsMore() const { return collecting.has_value() || !strips.empty(); }
     std::optional<Image> renderImage(const Scene& scene, const CameraProjection& camera, int width,
                                      int height, std::string* error, const PictureTiling& tiling);
     std::string description() const;
@@ -126,7 +152,10 @@ private:
     bool drawFrame(const Scene& scene, const CameraProjection& camera, int width, int height,
                    const PixelRect& tile, bool overBackdrop, bool spread, std::string* error);
     bool drewWithoutError(std::string* error);
-    void refreshPlanets(const Scene& scene, const CameraProjection& camera, int width, int height);
+    // Brings the planet data up to date; false while a rebuild spread over frames goes on.
+    bool refreshPlanets(const Scene& scene, const CameraProjection& camera, int width, int height,
+                        bool spread);
+    void beginRebuild(const Scene& scene, const ViewOfPlanets& view);
     bool patchPlanets(const Scene& scene, const ScreenFrame& frame);
     void upload(const PlanetList::Pass& pass);
     DrawnArea drawPlanets(const CameraProjection& camera, int width, int height,
@@ -184,10 +213,13 @@ private:
     bool bufferHoldsWholePass = false;
     PlanetList::Pass partPass;
     std::optional<SceneLight> light;
-    std::uint64_t sceneId = 0;
-    std::uint64_t sceneRevision = 0;
-    Vec3 sceneEye;
-    ScreenFrame sceneFrame;
+    // The view the planet data is made for; none before the first.
+    std::optional<ViewOfPlanets> planetsMadeFor;
+    // A rebuild of the planet data taken in over several frames, for this view; and how many
+    // nodes of the scene a frame takes in (a scene's nodes are taken in many times faster
+    // than its planets are drawn).
+    std::optional<ViewOfPlanets> collecting;
+    std::size_t nodesPerFrame = std::numeric_limits<std::size_t>::max();
 };
 
 bool RendererState::build(std::string* error) {
@@ -247,21 +279,28 @@ bool RendererState::build(std::string* error) {
     return true;
 }
 
-void RendererState::refreshPlanets(const Scene& scene, const CameraProjection& camera, int width,
-                                   int height) {
+bool RendererState::refreshPlanets(const Scene& scene, const CameraProjection& camera, int width,
+                                   int height, bool spread) {
     const Vec3 eye = camera.eye();
     const ScreenFrame frame{camera.ndcToRayX(), camera.ndcToRayY(), width, height,
                             static_cast<double>(pointSizeLimit)};
-    const bool sameView = scene.id() == sceneId && eye == sceneEye &&
-                          frame.ndcToRayX == sceneFrame.ndcToRayX &&
-                          frame.ndcToRayY == sceneFrame.ndcToRayY &&
-                          frame.width == sceneFrame.width && frame.height == sceneFrame.height;
-    if (sameView && scene.revision() == sceneRevision)
-        return;
-    if (!sameView || !patchPlanets(scene, frame)) {
-        surfaces.beginScene();
-        planets.rebuild(scene.rootNode(), eye, frame,
-                        [this](const std::string& name) { return surfaces.layerOf(name); });
+    const ViewOfPlanets view{scene.id(), scene.revision(), eye, frame};
+    if (collecting && !(*collecting == view)) {
+        // The scene changed while it was being taken in: from the start again. The surfaces'
+        // pass is begun again too, as the last list's layers may have moved.
+        beginRebuild(scene, view);
+    } else if (!collecting) {
+        if (planetsMadeFor == view)
+            return true;
+        if (!planetsMadeFor || !planetsMadeFor->sameViewAs(view) || !patchPlanets(scene, frame))
+            beginRebuild(scene, view);
+    }
+    if (collecting) {
+        const std::size_t nodes = spread ? nodesPerFrame : std::numeric_limits<std::size_t>::max();
+        if (!planets.continueRebuild(
+                [this](const std::string& name) { return surfaces.layerOf(name); }, nodes))
+            return false;
+        collecting.reset();
         surfaces.endScene(largestSurfaceRadius(planets.instances(), frame));
     }
     light = findLight(scene.rootNode());
@@ -270,17 +309,21 @@ void RendererState::refreshPlanets(const Scene& scene, const CameraProjection& c
         changedArea = planets.takeChangedArea(draws);
         wholePassTile.reset();
     }
-    sceneId = scene.id();
-    sceneRevision = scene.revision();
-    sceneEye = eye;
-    sceneFrame = frame;
+    planetsMadeFor = view;
+    return true;
+}
+
+void RendererState::beginRebuild(const Scene& scene, const ViewOfPlanets& view) {
+    surfaces.beginScene();
+    planets.beginRebuild(scene.rootNode(), view.eye, view.frame);
+    collecting = view;
 }
 
 // The planets changed since the last look, redone one by one; false when one needs what
 // only a pass over the whole scene gives the surfaces (a new image or another level of
 // detail), and the planets are to be rebuilt.
 bool RendererState::patchPlanets(const Scene& scene, const ScreenFrame& frame) {
-    const auto changes = scene.changesSince(sceneRevision);
+    const auto changes = scene.changesSince(planetsMadeFor->revision);
     if (!changes)
         return false;
     return planets.patch(scene.rootNode(), *changes,
@@ -335,7 +378,7 @@ DrawnArea RendererState::drawPlanets(const CameraProjection& camera, int width, 
     if (spread && strips.split(part.value_or(tile), planets.instances().size(), height))
         return clearForStrips(part, tile);
     const std::array<double, 16> projection = camera.matrix();
-    const DepthFrame depthFrame{sceneFrame, projection[10], projection[14]};
+    const DepthFrame depthFrame{planetsMadeFor->frame, projection[10], projection[14]};
     if (part) {
         glEnable(GL_SCISSOR_TEST);
         glScissor(part->x - tile.x, part->y - tile.y, part->width, part->height);
@@ -509,8 +552,10 @@ bool RendererState::drawFrame(const Scene& scene, const CameraProjection& camera
         finishedOverBackdrop.reset();
         return false;
     }
-    refreshPlanets(scene, camera, width, height);
-    const DrawnArea drawn = drawPlanets(camera, width, height, tile, spread);
+    // While the planets are taken in, the canvas keeps what it shows.
+    const DrawnArea drawn = refreshPlanets(scene, camera, width, height, spread)
+                                ? drawPlanets(camera, width, height, tile, spread)
+                                : DrawnArea{};
     // The finishing works on the canvas's own pixels.
     const auto local = [&tile](const PixelRect& rect) {
         return PixelRect{rect.x - tile.x, rect.y - tile.y, rect.width, rect.height};

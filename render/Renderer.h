@@ -71,7 +71,9 @@ public:
     // Spreads a large redraw of render() over several calls, a strip of the picture each of
     // about `planetsPerFrame` planets, so that a window stays responsive while 100,000
     // planets are drawn afresh; 0 (the start) draws every frame whole. The strips not yet
-    // drawn show nothing. Pictures (renderImage) are always drawn whole.
+    // drawn show nothing. A new view of such a scene (another system, another camera) is
+    // taken in over the first calls too, which show the last frame meanwhile. Pictures
+    // (renderImage) are always drawn whole.
     void spreadRedraws(std::size_t planetsPerFrame);
     // Whether render() left strips for the calls to come: call it again until false.
     bool drawsMore() const;

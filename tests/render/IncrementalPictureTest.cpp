@@ -116,7 +116,8 @@ TEST_F(IncrementalPicture, AfterEachChangeThePictureIsTheOneDrawnAfresh) {
 
 // The window spreads a large redraw over several frames, a strip each. Once the last strip is
 // drawn the frame is exactly the picture drawn at once, though a planet moved while strips
-// were left; and a light change meanwhile starts the strips over.
+// were left; and a light change meanwhile starts the strips over. A new view of the scene is
+// taken in over several frames too, and starts over when the scene changes meanwhile.
 TEST_F(IncrementalPicture, ARedrawSpreadOverFramesEndsInThePictureDrawnAtOnce) {
     useSurfaces();
     SceneView view;
@@ -147,6 +148,15 @@ TEST_F(IncrementalPicture, ARedrawSpreadOverFramesEndsInThePictureDrawnAtOnce) {
     EXPECT_TRUE(renderer->drawsMore());
     target.draw(*renderer, view);
     view.updateLight("-100", "50", "200");
+    finish();
+    EXPECT_EQ(differingBytes(pictureOf(target.draw(*renderer, view), kWidth, kHeight),
+                             drawnAfresh(view, kWidth, kHeight)),
+              0u);
+
+    view.updateCamera(45, 45, 0, 0, 560, true, true);
+    target.draw(*renderer, view);
+    EXPECT_TRUE(renderer->drawsMore());
+    view.updatePlanet("3", {1, 0, 0, 1}, 0, 1, "10", "-20", "200", "25");
     finish();
     EXPECT_EQ(differingBytes(pictureOf(target.draw(*renderer, view), kWidth, kHeight),
                              drawnAfresh(view, kWidth, kHeight)),
