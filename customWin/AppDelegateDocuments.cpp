@@ -212,7 +212,7 @@ void AppDelegate::openProject2(const QString& path) {
             WorkResult result;
             result.ok = readSystem(source, result.project, result.error);
             if (result.ok)
-                result.planetNodes = packagePlanetNodes(result.project.planets);
+                result.planetNodes = packagePlanetNodes(result.project);
             return result;
         },
         [this, path](WorkResult& result) {

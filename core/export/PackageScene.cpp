@@ -4,6 +4,8 @@
 #include "core/scene/PlanetNodes.h"
 
 #include <algorithm>
+#include <memory>
+#include <optional>
 #include <utility>
 
 namespace orrery {
@@ -21,23 +23,39 @@ long packageBackground(const OpenedProject& project) {
     return static_cast<long>(integerValue(project.settings[setting::background]));
 }
 
-SceneNodeBatch packagePlanetNodes(const std::vector<PlanetRecord>& planets) {
+namespace {
+
+// Where the package's camera stands, when all five of its values pass.
+std::optional<Vec3> packageEye(const OpenedProject& project) {
+    if (!project.checks.camera)
+        return std::nullopt;
+    const auto& s = project.settings;
+    const std::size_t c = setting::cameraXFov;
+    return Vec3{floatValue(s[c + 2]), floatValue(s[c + 3]), floatValue(s[c + 4])};
+}
+
+} // namespace
+
+SceneNodeBatch packagePlanetNodes(const OpenedProject& project) {
     SceneNodeBatch nodes;
-    for (const PlanetRecord& planet : planets)
+    for (const PlanetRecord& planet : project.planets)
         nodes.append(makePlanetNode(planet.tsecs, planet.color, integerValue(planet.styleindex),
                                     integerValue(planet.surfaceindex), planet.xvalue, planet.yvalue,
                                     planet.zvalue, planet.radius));
+    // A scene's root stands at the origin.
+    if (const std::optional<Vec3> eye = packageEye(project))
+        nodes.setDepthRange(
+            std::make_shared<SceneDepthRange>(SceneDepthRange::prepared(nodes, Vec3{}, *eye)));
     return nodes;
 }
 
 SceneNodeBatch applyPackageToScene(SceneView& view, const OpenedProject& project,
                                    SceneNodeBatch planets) {
     const auto& s = project.settings;
-    if (project.checks.camera) {
+    if (const std::optional<Vec3> eye = packageEye(project)) {
         const std::size_t c = setting::cameraXFov;
-        view.updateCamera(floatValue(s[c]), floatValue(s[c + 1]), floatValue(s[c + 2]),
-                          floatValue(s[c + 3]), floatValue(s[c + 4]), project.orthographic,
-                          project.zRange);
+        view.updateCamera(floatValue(s[c]), floatValue(s[c + 1]), eye->x, eye->y, eye->z,
+                          project.orthographic, project.zRange);
     }
     if (project.checks.light) {
         const std::size_t l = setting::lightX;
@@ -48,7 +66,7 @@ SceneNodeBatch applyPackageToScene(SceneView& view, const OpenedProject& project
 }
 
 void loadPackageScene(SceneView& view, const OpenedProject& project) {
-    applyPackageToScene(view, project, packagePlanetNodes(project.planets));
+    applyPackageToScene(view, project, packagePlanetNodes(project));
     const DocumentSize size = packageDocumentSize(project);
     view.setViewSize(size.width, size.height);
 }

@@ -23,10 +23,11 @@ DocumentSize packageDocumentSize(const OpenedProject& project);
 // The background when it passes its check, else the fresh window's transparent 0.
 long packageBackground(const OpenedProject& project);
 
-// One node per planet, as createPlanet2 builds it, apart from any scene: the window makes
-// them on the worker that reads the package. Opening does not hide planets whose state is
-// "0"; they show until their check box is next switched, and the export draws them too.
-SceneNodeBatch packagePlanetNodes(const std::vector<PlanetRecord>& planets);
+// One node per planet of the package, as createPlanet2 builds it, apart from any scene: the
+// window makes them on the worker that reads the package, with their depth range seen from
+// the package's camera when it passes. Opening does not hide planets whose state is "0";
+// they show until their check box is next switched, and the export draws them too.
+SceneNodeBatch packagePlanetNodes(const OpenedProject& project);
 // What opening a package does to a scene: the camera when all five camera values pass, the
 // light position when all three pass, the light colour, and the planets replaced by
 // `planets` (packagePlanetNodes of the package's). Returns the planets taken away.

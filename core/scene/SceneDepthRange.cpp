@@ -37,15 +37,7 @@ DepthRange SceneDepthRange::of(const Scene& scene, Vec3 eye) {
             heapUp(farthest_, keptFarthest, farthestOnTop);
         }
     } else {
-        reaches_.clear();
-        nearest_.clear();
-        farthest_.clear();
-        eye_ = eye;
-        // Taken in unordered, then sorted once.
-        rebuild(root, root.position());
-        std::sort(reaches_.begin(), reaches_.end(), byNode);
-        std::make_heap(nearest_.begin(), nearest_.end(), nearestOnTop);
-        std::make_heap(farthest_.begin(), farthest_.end(), farthestOnTop);
+        startOver(root.children(), root.position(), eye);
     }
     kept_ = true;
     sceneId_ = scene.id();
@@ -62,13 +54,41 @@ DepthRange SceneDepthRange::of(const Scene& scene, Vec3 eye) {
     return DepthRange{zNear, zFar};
 }
 
-void SceneDepthRange::rebuild(const SceneNode& node, Vec3 origin) {
-    for (const auto& child : node.children()) {
+SceneDepthRange SceneDepthRange::prepared(const SceneNodeBatch& planets, Vec3 origin, Vec3 eye) {
+    SceneDepthRange range;
+    range.startOver(planets.nodes(), origin, eye);
+    return range;
+}
+
+void SceneDepthRange::adopt(SceneDepthRange&& prepared, const Scene& scene) {
+    if (!(prepared.origin_ == scene.rootNode().position()))
+        return;
+    *this = std::move(prepared);
+    kept_ = true;
+    sceneId_ = scene.id();
+    revision_ = scene.revision();
+}
+
+void SceneDepthRange::startOver(const SceneNode::ChildList& nodes, Vec3 origin, Vec3 eye) {
+    reaches_.clear();
+    nearest_.clear();
+    farthest_.clear();
+    eye_ = eye;
+    origin_ = origin;
+    // Taken in unordered, then sorted once.
+    takeIn(nodes, origin);
+    std::sort(reaches_.begin(), reaches_.end(), byNode);
+    std::make_heap(nearest_.begin(), nearest_.end(), nearestOnTop);
+    std::make_heap(farthest_.begin(), farthest_.end(), farthestOnTop);
+}
+
+void SceneDepthRange::takeIn(const SceneNode::ChildList& nodes, Vec3 origin) {
+    for (const auto& child : nodes) {
         if (child->isHidden())
             continue;
         const Vec3 world = origin + child->position();
         add(*child, world, false);
-        rebuild(*child, world);
+        takeIn(child->children(), world);
     }
 }
 

@@ -23,6 +23,15 @@ class SceneDepthRange {
 public:
     DepthRange of(const Scene& scene, Vec3 eye);
 
+    // The range of planets not yet in a scene, to be the children of a root at `origin` seen
+    // from `eye`: worked out where they are made (on the worker that reads a package), so
+    // that the scene taking them in need not go over 100,000 planets again on its thread.
+    static SceneDepthRange prepared(const SceneNodeBatch& planets, Vec3 origin, Vec3 eye);
+    // Takes a prepared range as the range of `scene` as it stands, whose planets are now the
+    // prepared ones and nothing else with a sphere; nothing when it was prepared for another
+    // root position. (Seen from another eye, `of` starts over.)
+    void adopt(SceneDepthRange&& prepared, const Scene& scene);
+
 private:
     struct Reach {
         double nearest = 0.0; // distances from the eye along the view
@@ -47,7 +56,9 @@ private:
         return std::less<const SceneNode*>{}(a.first, node);
     }
 
-    void rebuild(const SceneNode& node, Vec3 origin);
+    // Forgets everything and takes in the nodes and all below them.
+    void startOver(const SceneNode::ChildList& nodes, Vec3 origin, Vec3 eye);
+    void takeIn(const SceneNode::ChildList& nodes, Vec3 origin);
     // Notes the planet's reach, in its place when `sorted` (else at the end, for the caller to
     // sort), and appends its entries, which the caller makes part of the heaps.
     void add(const SceneNode& node, Vec3 world, bool sorted);
@@ -70,6 +81,7 @@ private:
     std::uint64_t sceneId_ = 0;
     std::uint64_t revision_ = 0;
     Vec3 eye_;
+    Vec3 origin_; // of the root the reaches were taken in below
 };
 
 } // namespace orrery

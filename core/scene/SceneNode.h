@@ -17,6 +17,7 @@
 
 namespace orrery {
 
+class SceneDepthRange;
 class SceneNodeBatch;
 
 // A sphere around its node's position; the material list holds at most one material, and
@@ -159,10 +160,16 @@ public:
     std::size_t size() const { return nodes_.size(); }
     const SceneNode::ChildList& nodes() const { return nodes_; }
 
+    // The depth range of the nodes, worked out where the batch is made (SceneDepthRange::
+    // prepared), for the scene that takes in the batch whole; none when not worked out.
+    void setDepthRange(std::shared_ptr<SceneDepthRange> range) { depthRange_ = std::move(range); }
+    std::shared_ptr<SceneDepthRange> takeDepthRange() { return std::move(depthRange_); }
+
 private:
     friend class SceneNode;
     SceneNode::ChildList nodes_;
     SceneNode::NameIndex byName_;
+    std::shared_ptr<SceneDepthRange> depthRange_;
 };
 
 } // namespace orrery

@@ -98,10 +98,14 @@ bool SceneView::hasPlanets() const {
 }
 
 SceneNodeBatch SceneView::replacePlanets(SceneNodeBatch planets) {
+    const std::shared_ptr<SceneDepthRange> prepared = planets.takeDepthRange();
     SceneNodeBatch old =
         scene_.rootNode().exchangeChildren(std::move(planets), [this](const SceneNode& node) {
             return &node == cameraNode_.get() || &node == lightNode_.get();
         });
+    // The camera and the light have no sphere: the planets' range is the scene's.
+    if (prepared)
+        depthRange_.adopt(std::move(*prepared), scene_);
     setNeedsDisplay();
     return old;
 }

@@ -1,8 +1,11 @@
 #include "core/scene/PlanetNodes.h"
+#include "core/scene/SceneDepthRange.h"
 #include "core/scene/SceneView.h"
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <optional>
 #include <variant>
 
 namespace orrery {
@@ -164,6 +167,31 @@ TEST(SceneViewPlanets, EveryChangeAsksForARedraw) {
     view.updateLight("1", "2", "3");
     view.updateLightColor(kRed);
     EXPECT_EQ(redraws, 8);
+}
+
+// A depth range worked out with a batch (on the worker that reads a package) serves the scene
+// that takes the batch in, and follows the scene's later changes; one worked out for another
+// eye than the camera's is left aside.
+TEST(SceneViewPlanets, ADepthRangePreparedWithTheBatchServesTheSceneThatTakesItIn) {
+    const auto batch = [](std::optional<Vec3> eye) {
+        SceneNodeBatch nodes;
+        nodes.append(makePlanetNode("1", kRed, 0, 1, "0", "0", "0", "24"));
+        nodes.append(makePlanetNode("2", kRed, 0, 1, "10", "0", "-300", "50"));
+        if (eye)
+            nodes.setDepthRange(
+                std::make_shared<SceneDepthRange>(SceneDepthRange::prepared(nodes, {}, *eye)));
+        return nodes;
+    };
+    for (const double eyeZ : {500.0, 800.0}) {
+        SceneView prepared; // the camera stands at z 500
+        SceneView worked;
+        prepared.replacePlanets(batch(Vec3{0, 0, eyeZ}));
+        worked.replacePlanets(batch(std::nullopt));
+        EXPECT_EQ(prepared.projection(800, 600).matrix(), worked.projection(800, 600).matrix());
+        for (SceneView* view : {&prepared, &worked})
+            view->updatePlanet("2", kRed, 0, 1, "10", "0", "-900", "50");
+        EXPECT_EQ(prepared.projection(800, 600).matrix(), worked.projection(800, 600).matrix());
+    }
 }
 
 } // namespace
