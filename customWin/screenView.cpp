@@ -19,6 +19,12 @@ void screenView::setColor(long index) {
 }
 
 void screenView::changeBackColor(long index) {
+    // The same backdrop again (an opened package's, say): nothing to make, and nothing for
+    // the scene to take in again.
+    if (madeSize_.isValid() && index == madeColor_ && size() == madeSize_)
+        return;
+    madeColor_ = index;
+    madeSize_ = size();
     // Made at the size in points and drawn at the device's scale without smoothing: the
     // checkerboard's 20-point squares stay crisp, solid colours stay solid.
     background_ = backgroundImage(index, width(), height());

@@ -43,6 +43,9 @@ private:
     void drawAxes(QPainter& painter, const QSize& size) const;
 
     long currentColor_ = 0;
+    // The colour and size the backdrop was last made for; none made yet while invalid.
+    long madeColor_ = 0;
+    QSize madeSize_;
     Image background_; // the pixels myImage_ wraps
     QImage myImage_;
     bool showAxes_ = true;
