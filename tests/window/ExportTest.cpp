@@ -159,6 +159,11 @@ private slots:
 
 private:
     QWidget* animationSheet() {
+        // The key reaches the menu's shortcut only in the active window, which a sheet that
+        // just closed may have left inactive for a moment.
+        [&] {
+            QVERIFY(QTest::qWaitForWindowActive(&app().window()));
+        }();
         QTest::keyClick(&app().window(), Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
         QWidget* sheet = nullptr;
         [&] {
