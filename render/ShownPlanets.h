@@ -17,7 +17,7 @@ namespace orrery::render {
 // scene's list of changed planets at a cost that follows the number of changes (besides a
 // few passes that only move memory), so that the picture needs drawing again only where a
 // changed planet was or is.
-class PlanetList {
+class ShownPlanets {
 public:
     // Makes the list again of every planet of the scene that shows in the frame, in steps:
     // each takes in about `nodes` more nodes of the scene, and the last, which returns true,

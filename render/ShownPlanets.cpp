@@ -1,4 +1,4 @@
-#include "render/PlanetList.h"
+#include "render/ShownPlanets.h"
 
 #include <algorithm>
 #include <future>
@@ -37,7 +37,7 @@ std::uint8_t drawnAs(const PlanetDraw& draw) {
 
 } // namespace
 
-void PlanetList::changed(const PixelBox& area) {
+void ShownPlanets::changed(const PixelBox& area) {
     if (!changedArea_) {
         changedArea_ = area;
         return;
@@ -47,13 +47,13 @@ void PlanetList::changed(const PixelBox& area) {
            std::max(box.right, area.right), std::max(box.top, area.top)};
 }
 
-void PlanetList::beginRebuild(const SceneNode& root, Vec3 eye, const ScreenFrame& frame) {
+void ShownPlanets::beginRebuild(const SceneNode& root, Vec3 eye, const ScreenFrame& frame) {
     collection_.begin(root, eye);
     nextEye_ = eye;
     nextFrame_ = frame;
 }
 
-bool PlanetList::continueRebuild(const SurfaceLayerLookup& layerOf, std::size_t nodes) {
+bool ShownPlanets::continueRebuild(const SurfaceLayerLookup& layerOf, std::size_t nodes) {
     if (!collection_.step(layerOf, nodes))
         return false;
     collection_.finish(instances_, collected_);
@@ -72,8 +72,8 @@ bool PlanetList::continueRebuild(const SurfaceLayerLookup& layerOf, std::size_t 
     return true;
 }
 
-bool PlanetList::patch(const SceneNode& root, const std::vector<SceneChange>& changes,
-                       const SurfaceLayerLookup& layerOf) {
+bool ShownPlanets::patch(const SceneNode& root, const std::vector<SceneChange>& changes,
+                         const SurfaceLayerLookup& layerOf) {
     // Each node once, as it stands now: its last entry reaches it if it still lives.
     std::vector<SceneChange> latest(changes.rbegin(), changes.rend());
     std::stable_sort(latest.begin(), latest.end(),
@@ -146,7 +146,7 @@ bool PlanetList::patch(const SceneNode& root, const std::vector<SceneChange>& ch
     return true;
 }
 
-std::optional<PixelBox> PlanetList::takeChangedArea(const std::vector<PlanetDraw>& draws) {
+std::optional<PixelBox> ShownPlanets::takeChangedArea(const std::vector<PlanetDraw>& draws) {
     for (const PlanetDraw& draw : draws) {
         const std::uint8_t kind = drawnAs(draw);
         for (std::size_t i = draw.first; i < draw.first + draw.count; ++i) {
@@ -159,9 +159,9 @@ std::optional<PixelBox> PlanetList::takeChangedArea(const std::vector<PlanetDraw
     return std::exchange(changedArea_, std::nullopt);
 }
 
-void PlanetList::passOver(const PixelRect& area, const std::vector<PlanetDraw>& draws,
-                          const DepthFrame& frame, const std::vector<bool>& opaqueRamps,
-                          Pass& pass) {
+void ShownPlanets::passOver(const PixelRect& area, const std::vector<PlanetDraw>& draws,
+                            const DepthFrame& frame, const std::vector<bool>& opaqueRamps,
+                            Pass& pass) {
     pass.instances.clear();
     pass.pixels.clear();
     pass.draws.clear();
@@ -218,8 +218,8 @@ void PlanetList::passOver(const PixelRect& area, const std::vector<PlanetDraw>& 
     }
 }
 
-void PlanetList::planBand(Band& band, const std::vector<PlanetDraw>& draws, const DepthFrame& frame,
-                          const std::vector<bool>& opaqueRamps) {
+void ShownPlanets::planBand(Band& band, const std::vector<PlanetDraw>& draws,
+                            const DepthFrame& frame, const std::vector<bool>& opaqueRamps) {
     const PixelBox box{static_cast<double>(band.area.x), static_cast<double>(band.area.y),
                        static_cast<double>(band.area.x + band.area.width),
                        static_cast<double>(band.area.y + band.area.height)};
@@ -244,7 +244,7 @@ void PlanetList::planBand(Band& band, const std::vector<PlanetDraw>& draws, cons
     assignPassRoles(band.candidates, frame, band.area, band.plan);
 }
 
-void PlanetList::appendBand(const Band& band, Pass& pass) {
+void ShownPlanets::appendBand(const Band& band, Pass& pass) {
     // Each piece of a planet is one instance of it, drawn over that piece.
     const auto append = [&](std::size_t candidate) {
         const PassPlanet& planet = band.plan.planets[candidate];
