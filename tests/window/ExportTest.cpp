@@ -167,6 +167,10 @@ private:
     // Each helper gives null or an empty path when what it waits for does not come; the
     // test's own check of that fails the test, never the suite.
     QWidget* animationSheet() {
+        // The keys reach the window's shortcuts only once it is active again after a sheet.
+        app().window().activateWindow();
+        if (!QTest::qWaitForWindowActive(&app().window()))
+            return nullptr;
         QTest::keyClick(&app().window(), Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
         return waitForTopLevel("animationSheet");
     }
