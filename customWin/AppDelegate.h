@@ -10,7 +10,6 @@
 #include "core/settings/Settings.h"
 #include "core/settings/SettingsReaders.h"
 #include "customWin/MenuBar.h"
-#include "customWin/PackageDialogs.h"
 #include "customWin/tableView1/CellDelegates.h"
 
 #include <QObject>
@@ -39,6 +38,7 @@ class ContentSheet;
 class FolderChoice;
 class FramedWindow;
 class LightPopover;
+struct PanelTexts;
 class PlanetAddSheet;
 class PlanetPanel;
 class PlanetTable;
@@ -150,12 +150,6 @@ public:
     // Where the panels that write pictures, scenes, animations and rows begin: the export
     // folder of the preferences.
     QString exportPanelFolder() const;
-    // A panel for a path, with the menus off while it is up; `chosen` runs unless the person
-    // cancelled.
-    using PathPanel = void (*)(QWidget& window, const QString& folder, const PanelTexts& texts,
-                               std::function<void(const QString&)> chosen);
-    void askForPath(const QString& folder, PathPanel panel, const PanelTexts& texts,
-                    std::function<void(const QString&)> chosen);
     void printPlain();
     void pageSetup();
     QPrinter& printer();
@@ -225,6 +219,12 @@ private:
     void addPlanetRows(ReadRows rows);
 
     // Export.
+    // A panel for a path, with the menus off while it is up; `chosen` runs unless the person
+    // cancelled.
+    using PathPanel = void (*)(QWidget& window, const QString& folder, const PanelTexts& texts,
+                               std::function<void(const QString&)> chosen);
+    void askForPath(const QString& folder, PathPanel panel, const PanelTexts& texts,
+                    std::function<void(const QString&)> chosen);
     void FileExport2(bool withBackground);
     void exportPicture(const QString& path, ExportFormat format, bool withBackground,
                        float compression);
