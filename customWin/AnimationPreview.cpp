@@ -1,6 +1,7 @@
 #include "customWin/AnimationPreview.h"
 
 #include "core/export/ExportPicture.h"
+#include "customWin/AppStyle.h"
 #include "imageio/QtImageWrap.h"
 #include "imageio/SurfaceLibrary.h"
 #include "render/TurntableRender.h"
@@ -44,7 +45,8 @@ AnimationPreview::AnimationPreview(QSize size, QWidget* parent) : QLabel(parent)
     setFixedSize(size);
     setAlignment(Qt::AlignCenter);
     // A dark field shows transparency as the window would.
-    setStyleSheet(QStringLiteral("background: #0d1020; border: 1px solid #4d587e;"));
+    setStyleSheet(QStringLiteral("background: #0d1020; border: 1px solid %1;")
+                      .arg(QLatin1String(kFloatingRim)));
     connect(&timer_, &QTimer::timeout, this, [this] {
         if (frames_.empty())
             return;

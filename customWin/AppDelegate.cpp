@@ -65,7 +65,7 @@ void AppDelegate::applicationWillFinishLaunching() {
     screenOptions();
     mainWindow_->show();
     // The tour follows the window's first frame, so that the window does not wait for it.
-    if (!generalSwitch(settings_.checkboxArray, 2))
+    if (!generalSwitch(settings_.checkboxArray, GeneralSwitch::skipTour))
         connect(&sceneview(), &sceneView::framePainted, this, &AppDelegate::openIntroduction,
                 Qt::SingleShotConnection);
     makeNSControls();
@@ -96,8 +96,9 @@ void AppDelegate::screenOptions() {
 
 void AppDelegate::populateDB0() {
     const bool windowsFileExists = std::filesystem::exists(settings_.paths().filePath0);
-    const WindowPlacement placement = mainWindowPlacement(
-        windowsFileExists, settings_.windowArray, generalSwitch(settings_.checkboxArray, 1));
+    const WindowPlacement placement =
+        mainWindowPlacement(windowsFileExists, settings_.windowArray,
+                            generalSwitch(settings_.checkboxArray, GeneralSwitch::centreAtStart));
     placeMainWindow(placement);
 }
 

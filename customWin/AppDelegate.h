@@ -37,13 +37,13 @@ class CameraPopover;
 class ContentSheet;
 class FolderChoice;
 class FramedWindow;
-class ImageButton;
 class LightPopover;
+struct PanelTexts;
 class PlanetAddSheet;
 class PlanetPanel;
 class PlanetTable;
 class PlanetTableModel;
-class TitleLabel;
+class TitleBar;
 class accessoryView1p;
 class accessoryView3;
 class introductionWindow;
@@ -104,7 +104,7 @@ public:
     void openSearchWindow();
 
     // Planets (AppDelegatePlanets.cpp): the table's handlers, the scene's reports, creating
-    // and deleting, showing all, export's availability and undo.
+    // and deleting, showing all, the panel's commands and undo.
     PlanetTable& tableView1() { return *tableView1_; }
     SystemEditor& editor() { return *editor_; }
     void textChange(PlanetColumn column, const QString& text);
@@ -120,7 +120,6 @@ public:
     void deletPlanet1();
     void deletPlanet2();
     void all1Clicked(bool on);
-    void validateExport();
     void undoClicked();
     void redoClicked();
     // The table shows the planet list again after it changed as a whole.
@@ -182,8 +181,6 @@ private:
     void registerWindowObservers();
     void buildTitleBar();
     void setReadingTabOrder();
-    // The title first, then the buttons that lie over it.
-    QList<QWidget*> titleBarControls() const;
     void showDocumentSize();
 
     // Planets.
@@ -193,7 +190,8 @@ private:
     // The status line under the table, for three seconds: the refusal of a typed value
     // unless another line is given.
     void showStatus(const QString& line = {});
-    void planetDeletionSelection();
+    // Delete, Show All and Export as the system and the selection allow.
+    void refreshPanelCommands();
     void closeCreationSheet();
     void showHistoryStep(const EditStep* step, bool undone);
     void refreshHistoryItems();
@@ -212,7 +210,6 @@ private:
     ProjectDocument currentDocument();
     void openProject2(const QString& path);
     void openProject3(const QString& path, OpenedProject& project, SceneNodeBatch planetNodes);
-    void showOpenedCameraAndLight(const OpenedProject& project);
     void showFailure(const QString& message, const std::string& reason);
     void askToSaveChanges(std::function<void()> then);
     bool mayClose();
@@ -222,6 +219,12 @@ private:
     void addPlanetRows(ReadRows rows);
 
     // Export.
+    // A panel for a path, with the menus off while it is up; `chosen` runs unless the person
+    // cancelled.
+    using PathPanel = void (*)(QWidget& window, const QString& folder, const PanelTexts& texts,
+                               std::function<void(const QString&)> chosen);
+    void askForPath(const QString& folder, PathPanel panel, const PanelTexts& texts,
+                    std::function<void(const QString&)> chosen);
     void FileExport2(bool withBackground);
     void exportPicture(const QString& path, ExportFormat format, bool withBackground,
                        float compression);
@@ -232,7 +235,6 @@ private:
     void exportAnimation(const QString& path, const AnimationChoices& choices);
 
     // Camera and light.
-    bool markCameraFields();
     void buildPopovers();
     void showCameraSettings();
     void showLightSettings();
@@ -241,6 +243,8 @@ private:
     void applyCameraSwitches();
     void applyCamera(int mergeKey);
     int editSessionFor(const QLineEdit& field);
+    // An opened package's camera and light in the popovers' fields, the failing ones red.
+    void showOpenedCameraAndLight(const OpenedProject& project);
 
     // Preferences.
     accessoryView1p& preferencesView();
@@ -259,8 +263,6 @@ private:
     void showAbout();
 
     // Chrome and frames (AppDelegateWindow.cpp).
-    void mouseEntered();
-    void mouseExited();
     void windowWillResize();
     void windowDidEndLiveResize();
     void windowDidReize();
@@ -278,26 +280,21 @@ private:
 
     void storeFrame(const QRect& frame, char windowNumber);
 
-    // Secondary windows (AppDelegateSecondary.cpp): both keep their frames alike, each in
-    // its own state and row of table Windows.
-    void rememberFrame(FramedWindow& window, ScreenRect& lastFrame, bool& isOpen,
-                       char windowNumber);
-    void showSecondaryWindow(FramedWindow& window, const ScreenRect& lastFrame, bool& isOpen);
+    // Secondary windows (AppDelegateSecondary.cpp): each stores its frames in its own row of
+    // table Windows.
+    void keepFrame(FramedWindow& window, const ScreenRect& storedFrame, char windowNumber);
 
     QString appName_;
     AppState state_;
     Settings settings_;
     mainWindow* mainWindow_;
     MenuItems menus_;
-    TitleLabel* titleLabel0_ = nullptr;
-    ImageButton* closeButton0_ = nullptr;
-    ImageButton* minButton0_ = nullptr;
-    ImageButton* maxButton0_ = nullptr;
-    ImageButton* fullButton0_ = nullptr;
+    TitleBar* titleBar_ = nullptr;
     std::unique_ptr<SystemEditor> editor_;
     CellHandlers cellHandlers_;
     PlanetTableModel* planetModel_ = nullptr;
     PlanetTable* tableView1_ = nullptr;
+    bool selectedRowEdited_ = false; // until another row is chosen
     QPointer<accessoryView3> accessoryView3_;
     QPointer<PlanetAddSheet> planetAddSheet_;
     accessoryView1p* accessoryView1p_ = nullptr;

@@ -39,25 +39,22 @@ std::shared_ptr<SceneView> AppDelegate::sceneForExport() {
 
 void AppDelegate::FileExportAnimation() {
     saveMenuStatus();
-    const std::string includePreference =
-        settings_.checkboxArray.size() > 3 ? settings_.checkboxArray[3] : std::string();
-    auto* sheet =
-        new AnimationSheet(*mainWindow_, storedAnimationChoices(settings_.preferenceArray),
-                           includeBackgroundChoice(state_.currentBackground, includePreference),
-                           state_.currentBackground, sceneForExport(),
-                           [this](const std::optional<AnimationChoices>& choices) {
-                               if (!choices) {
-                                   loadMenuStatus();
-                                   return;
-                               }
-                               for (const PreferenceRow& row : animationPreferenceRows(*choices)) {
-                                   settings_.saveData1(row.value, row.field);
-                                   settings_.editData1(row.position, row.value);
-                               }
-                               QTimer::singleShot(kPanelDelayMs, this, [this, chosen = *choices] {
-                                   chooseAnimationFile(chosen);
-                               });
-                           });
+    auto* sheet = new AnimationSheet(
+        *mainWindow_, storedAnimationChoices(settings_.preferenceArray),
+        includeBackgroundChoice(state_.currentBackground, settings_.checkboxArray),
+        state_.currentBackground, sceneForExport(),
+        [this](const std::optional<AnimationChoices>& choices) {
+            if (!choices) {
+                loadMenuStatus();
+                return;
+            }
+            for (const PreferenceRow& row : animationPreferenceRows(*choices)) {
+                settings_.saveData1(row.value, row.field);
+                settings_.editData1(row.position, row.value);
+            }
+            QTimer::singleShot(kPanelDelayMs, this,
+                               [this, chosen = *choices] { chooseAnimationFile(chosen); });
+        });
     sheet->open();
     placeAsSheet(*sheet, *mainWindow_);
 }

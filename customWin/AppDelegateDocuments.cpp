@@ -7,7 +7,6 @@
 #include "core/package/SystemSource.h"
 #include "core/settings/SettingsReaders.h"
 #include "customWin/AppDelegate.h"
-#include "customWin/CameraPopover.h"
 #include "customWin/CheckedQuietly.h"
 #include "customWin/FieldValidity.h"
 #include "customWin/FreeAway.h"
@@ -16,13 +15,12 @@
 #include "customWin/ProgressSheet.h"
 #include "customWin/Sheet.h"
 #include "customWin/Strings.h"
-#include "customWin/TitleLabel.h"
+#include "customWin/TitleBar.h"
 #include "customWin/headerView.h"
 #include "customWin/mainView.h"
 #include "customWin/mainWindow.h"
 #include "customWin/sceneView.h"
 #include "customWin/tableView1/PlanetTable.h"
-#include "customWin/tableView1/colorWell1_09.h"
 
 #include "core/edit/DocumentState.h"
 
@@ -69,7 +67,7 @@ bool AppDelegate::hasUnsavedChanges() const {
 void AppDelegate::updateTitle() {
     const QString title = QString::fromStdString(
         document_->title(appName_.toStdString(), text("unsavedMarker").toStdString()));
-    titleLabel0_->setText(title);
+    titleBar_->setTitle(title);
     mainWindow_->setWindowTitle(title);
     refreshHistoryItems();
 }
@@ -80,7 +78,7 @@ void AppDelegate::createNewSystem1() {
 }
 
 void AppDelegate::askToClearSystem() {
-    if (generalSwitch(settings_.checkboxArray, 5)) {
+    if (generalSwitch(settings_.checkboxArray, GeneralSwitch::clearWithoutAsking)) {
         createNewSystem2();
         return;
     }
@@ -98,15 +96,12 @@ void AppDelegate::askToClearSystem() {
 // last package without asking.
 void AppDelegate::createNewSystem2() {
     removeAllPlanets();
-    PlanetPanel& panel = planetPanel();
-    panel.deletePlanetButton1().setEnabled(false);
-    panel.allButton1().setEnabled(false);
-    setCheckedQuietly(panel.allButton1(), false);
+    setCheckedQuietly(planetPanel().allButton1(), false);
     setCameraDefault();
     setLightDefault();
     loadMenuStatus();
     document_->cleared();
-    validateExport();
+    refreshPanelCommands();
     focusTable();
 }
 
@@ -221,7 +216,7 @@ void AppDelegate::openProject2(const QString& path) {
                 openProject3(path, result.project, std::move(result.planetNodes));
             else
                 showFailure(text("openFailedMsg"), result.error);
-            validateExport();
+            refreshPanelCommands();
         });
 }
 
@@ -245,8 +240,6 @@ void AppDelegate::openProject3(const QString& path, OpenedProject& project,
     SceneNodeBatch oldNodes =
         applyPackageToScene(sceneview().scene(), project, std::move(planetNodes));
     showOpenedCameraAndLight(project);
-    state_.lightColor = project.lightColor;
-    popOver4_->colorWell4().setColor(state_.lightColor);
     replacePlanets(std::move(oldNodes), std::move(project.planets));
 
     // A picture is only read: the system it carries gets a package name at its first save.
@@ -259,33 +252,6 @@ void AppDelegate::openProject3(const QString& path, OpenedProject& project,
     }
     menus_.fileSave->setEnabled(true);
     focusTable();
-}
-
-// Values that pass are shown in the popovers' fields. A refused camera leaves the fields
-// as they are and marks those whose own text fails; a refused light marks the fields of
-// the file's failing values.
-void AppDelegate::showOpenedCameraAndLight(const OpenedProject& project) {
-    const auto& s = project.settings;
-    CameraPopover& camera = *popOver5_;
-    QLineEdit* cameraFields[] = {&camera.xfovField5(), &camera.yfovField5(), &camera.xField5(),
-                                 &camera.yField5(), &camera.zField5()};
-    if (project.checks.camera) {
-        for (std::size_t i = 0; i < 5; ++i) {
-            cameraFields[i]->setText(QString::fromStdString(s[setting::cameraXFov + i]));
-            markValid(*cameraFields[i], true);
-        }
-        setCheckedQuietly(camera.orthoButton5(), project.orthographic);
-        setCheckedQuietly(camera.adjustZButton5(), project.zRange);
-    } else {
-        markCameraFields();
-    }
-    LightPopover& light = *popOver4_;
-    QLineEdit* lightFields[] = {&light.xField4(), &light.yField4(), &light.zField4()};
-    for (std::size_t i = 0; i < 3; ++i) {
-        if (project.checks.light)
-            lightFields[i]->setText(QString::fromStdString(s[setting::lightX + i]));
-        markValid(*lightFields[i], project.checks.lightFields[i]);
-    }
 }
 
 void AppDelegate::showFailure(const QString& message, const std::string& reason) {
@@ -315,7 +281,7 @@ void AppDelegate::askToSaveChanges(std::function<void()> then) {
                        writePackage(QString::fromStdString(*package), false, then);
                    else if (answer == kFirstButton)
                        saveAsProject1(then);
-                   else if (answer == kSecondButton)
+                   else if (answer == kFirstButton + 1) // Discard
                        then();
                });
 }

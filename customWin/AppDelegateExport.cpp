@@ -41,10 +41,8 @@ void AppDelegate::FileExport1() {
     connect(&accessory->exportPopup1(), &QComboBox::currentIndexChanged, this,
             [this](int row) { state_.formatSelection = row; });
     saveMenuStatus();
-    const std::string includePreference =
-        settings_.checkboxArray.size() > 3 ? settings_.checkboxArray[3] : std::string();
     const IncludeBackgroundChoice include =
-        includeBackgroundChoice(state_.currentBackground, includePreference);
+        includeBackgroundChoice(state_.currentBackground, settings_.checkboxArray);
     accessory->includeButton1().setEnabled(include.enabled);
     accessory->includeButton1().setChecked(include.on);
     askOnSheet(
@@ -134,16 +132,26 @@ QString AppDelegate::exportPanelFolder() const {
         exportFolder(settings_.preferenceArray, documentsFolder()).string());
 }
 
-void AppDelegate::exportScene() {
+void AppDelegate::askForPath(const QString& folder, PathPanel panel, const PanelTexts& texts,
+                             std::function<void(const QString&)> chosen) {
     saveMenuStatus();
-    const QString folder = exportPanelFolder();
-    savePicturePanel(
-        *mainWindow_, folder,
+    panel(*mainWindow_, folder, texts, [this, chosen = std::move(chosen)](const QString& path) {
+        loadMenuStatus();
+        if (!path.isEmpty())
+            chosen(path);
+    });
+}
+
+void AppDelegate::exportScene() {
+    const PathPanel sceneFilePanel = [](QWidget& window, const QString& folder,
+                                        const PanelTexts& texts,
+                                        std::function<void(const QString&)> chosen) {
+        savePicturePanel(window, folder, texts, QStringLiteral("glb"), nullptr, std::move(chosen));
+    };
+    askForPath(
+        exportPanelFolder(), sceneFilePanel,
         {text("exportSceneTitle"), text("exportSceneMessage"), text("exportImageUntitleFileName")},
-        QStringLiteral("glb"), nullptr, [this](const QString& path) {
-            loadMenuStatus();
-            if (path.isEmpty())
-                return;
+        [this](const QString& path) {
             SceneModel model = sceneModel(sceneview().scene(), state_.planetArray.records(),
                                           shownDocument_.height);
             model.aspectRatio = static_cast<double>(shownDocument_.width) / shownDocument_.height;

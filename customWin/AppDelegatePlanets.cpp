@@ -1,7 +1,8 @@
 // Planets: the table's cell handlers, the scene's click and drag reports, creating and
-// deleting planets, showing them all, whether there is anything to export, and undo.
+// deleting planets, showing them all, the panel's commands (core/app/PanelCommands.h), and
+// undo.
+#include "core/app/PanelCommands.h"
 #include "core/edit/HistoryView.h"
-#include "core/export/ExportChoices.h"
 #include "core/model/Totalsecs.h"
 #include "core/settings/SettingsReaders.h"
 #include "core/validate/Validators.h"
@@ -10,6 +11,7 @@
 #include "customWin/PlanetCreationSheet.h"
 #include "customWin/PlanetPanel.h"
 #include "customWin/Sheet.h"
+#include "customWin/StandardEditActions.h"
 #include "customWin/Strings.h"
 #include "customWin/footView.h"
 #include "customWin/mainView.h"
@@ -19,7 +21,6 @@
 #include "customWin/tableView1/PlanetTable.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -32,10 +33,6 @@ namespace orrery::window {
 namespace {
 
 constexpr int kStatusMs = 3000;
-
-QLineEdit* focusedField() {
-    return qobject_cast<QLineEdit*>(QApplication::focusWidget());
-}
 
 } // namespace
 
@@ -63,12 +60,12 @@ void AppDelegate::buildPlanetPanel() {
     connect(&panel.deletePlanetButton1(), &QPushButton::clicked, this, &AppDelegate::deletPlanet1);
     connect(&panel.allButton1(), &QCheckBox::toggled, this, &AppDelegate::all1Clicked);
     connect(&panel.exportButton1(), &QPushButton::clicked, this, &AppDelegate::FileExport1);
-    connect(tableView1_, &PlanetTable::selectionChangedRows, this,
-            &AppDelegate::planetDeletionSelection);
-    connect(planetModel_, &PlanetTableModel::rowCountChanged, this, [this](int count) {
-        planetPanel().allButton1().setEnabled(count >= 1);
-        validateExport();
+    connect(tableView1_, &PlanetTable::selectionChangedRows, this, [this] {
+        selectedRowEdited_ = false;
+        refreshPanelCommands();
     });
+    connect(planetModel_, &PlanetTableModel::rowCountChanged, this,
+            &AppDelegate::refreshPanelCommands);
     connect(&sceneview(), &sceneView::planetHit, this, &AppDelegate::hitText1Selected);
     connect(&sceneview(), &sceneView::planetMoved, this, &AppDelegate::updateTextPostion);
 
@@ -81,10 +78,7 @@ void AppDelegate::buildPlanetPanel() {
     connect(&accessoryView3_->cancelButton3(), &QPushButton::clicked, this,
             &AppDelegate::cancel3Clicked);
 
-    panel.allButton1().setEnabled(false);
-    panel.deletePlanetButton1().setEnabled(false);
-    menus_.planetDelete->setEnabled(false);
-    validateExport();
+    refreshPanelCommands();
 }
 
 void AppDelegate::textChange(PlanetColumn column, const QString& typed) {
@@ -94,7 +88,6 @@ void AppDelegate::textChange(PlanetColumn column, const QString& typed) {
 
 void AppDelegate::stateChange1_02(int on) {
     afterCellEdit(editor_->editState(tableView1_->selectedRow(), on));
-    validateExport();
 }
 
 void AppDelegate::indexChange(PlanetColumn column, int index) {
@@ -114,10 +107,8 @@ void AppDelegate::afterCellEdit(CellOutcome outcome) {
     if (outcome != CellOutcome::stored)
         return;
     planetModel_->rowChanged(static_cast<int>(*tableView1_->selectedRow()));
-    // An edit leaves the row selected but takes the delete button away until the
-    // selection changes again, so that a Return too many cannot delete the planet.
-    planetPanel().deletePlanetButton1().setEnabled(false);
-    menus_.planetDelete->setEnabled(false);
+    selectedRowEdited_ = true;
+    refreshPanelCommands();
 }
 
 // Every refusal shows the status line for three seconds of its own; an earlier timer is
@@ -142,17 +133,20 @@ void AppDelegate::updateTextPostion(const QString& tsecs, const QString& x, cons
     tableView1_->selectRow(row);
 }
 
-void AppDelegate::planetDeletionSelection() {
-    const bool selected = tableView1_->selectedRow().has_value();
-    planetPanel().deletePlanetButton1().setEnabled(selected);
-    menus_.planetDelete->setEnabled(selected);
-}
-
-void AppDelegate::validateExport() {
-    const bool shown = canExport(state_.planetArray);
-    menus_.fileExport->setEnabled(shown);
-    menus_.fileExportScene->setEnabled(shown);
-    planetPanel().exportButton1().setEnabled(shown);
+// Delete, Show All and Export, each with its menu items, as the system and the selection
+// allow (core/app/PanelCommands.h).
+void AppDelegate::refreshPanelCommands() {
+    const RowSelection selection = !tableView1_->selectedRow() ? RowSelection::none
+                                   : selectedRowEdited_        ? RowSelection::edited
+                                                               : RowSelection::chosen;
+    const PanelCommands commands = panelCommands(state_.planetArray.records(), selection);
+    PlanetPanel& panel = planetPanel();
+    panel.deletePlanetButton1().setEnabled(commands.deletePlanet);
+    menus_.planetDelete->setEnabled(commands.deletePlanet);
+    panel.allButton1().setEnabled(commands.showAll);
+    panel.exportButton1().setEnabled(commands.exportPicture);
+    menus_.fileExport->setEnabled(commands.exportPicture);
+    menus_.fileExportScene->setEnabled(commands.exportPicture);
 }
 
 void AppDelegate::openPlanetCreation() {
@@ -174,7 +168,7 @@ void AppDelegate::closeCreationSheet() {
     state_.isCreatePlanetOpen = false;
     loadMenuStatus();
     // What the sheet changed counts over what the menus were before it.
-    validateExport();
+    refreshPanelCommands();
     focusTable();
 }
 
@@ -195,7 +189,7 @@ void AppDelegate::deletPlanet1() {
     const std::optional<std::size_t> row = tableView1_->selectedRow();
     if (!row)
         return;
-    if (generalSwitch(settings_.checkboxArray, 3)) {
+    if (generalSwitch(settings_.checkboxArray, GeneralSwitch::deleteWithoutAsking)) {
         deletPlanet2();
         return;
     }
@@ -215,17 +209,16 @@ void AppDelegate::deletPlanet2() {
     if (!editor_->deletePlanet(row))
         return;
     planetModel_->rowRemoved(static_cast<int>(*row));
-    planetPanel().deletePlanetButton1().setEnabled(false);
     loadMenuStatus();
-    planetDeletionSelection();
-    validateExport();
+    selectedRowEdited_ = false;
+    refreshPanelCommands();
     focusTable();
 }
 
 void AppDelegate::all1Clicked(bool on) {
     editor_->showAll(on);
     planetModel_->allRowsChanged();
-    validateExport();
+    refreshPanelCommands();
     focusTable();
 }
 
@@ -235,7 +228,7 @@ void AppDelegate::focusTable() {
 
 void AppDelegate::reloadPlanets() {
     planetModel_->reload();
-    validateExport();
+    refreshPanelCommands();
 }
 
 // Undo and Redo take back a field's own typing first. The system's history is reached
@@ -293,8 +286,8 @@ void AppDelegate::showHistoryStep(const EditStep* step, bool undone) {
     planetModel_->reload();
     if (selected && *selected < state_.planetArray.size())
         tableView1_->selectRow(selected);
-    planetDeletionSelection();
-    validateExport();
+    selectedRowEdited_ = false;
+    refreshPanelCommands();
 }
 
 } // namespace orrery::window

@@ -112,15 +112,10 @@ void AppDelegate::addPlanetRows(ReadRows rows) {
 }
 
 void AppDelegate::exportPlanetRows() {
-    saveMenuStatus();
-    const QString folder = exportPanelFolder();
-    savePlanetRowsPanel(
-        *mainWindow_, folder,
+    askForPath(
+        exportPanelFolder(), savePlanetRowsPanel,
         {text("exportPlanetsTitle"), text("exportPlanetsMessage"), text("exportPlanetsFile")},
         [this](const QString& path) {
-            loadMenuStatus();
-            if (path.isEmpty())
-                return;
             const std::string rows =
                 writePlanetRows(state_.planetArray.records(), formatOfFile(path));
             const std::string error = imageio::writeFileAtomically(
@@ -132,15 +127,11 @@ void AppDelegate::exportPlanetRows() {
 }
 
 void AppDelegate::importPlanetRows() {
-    saveMenuStatus();
     const QString folder =
         QString::fromStdString(openFolder(settings_.preferenceArray, documentsFolder()).string());
-    openPlanetRowsPanel(
-        *mainWindow_, folder, {text("importPlanetsTitle"), text("importPlanetsMessage"), {}},
+    askForPath(
+        folder, openPlanetRowsPanel, {text("importPlanetsTitle"), text("importPlanetsMessage"), {}},
         [this](const QString& path) {
-            loadMenuStatus();
-            if (path.isEmpty())
-                return;
             std::string bytes;
             std::string error;
             if (!readFileBounded(path.toStdString(), kMaxRowsBytes, bytes, error)) {

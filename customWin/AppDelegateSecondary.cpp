@@ -1,8 +1,6 @@
 // The secondary windows, the style library and the find window: opened from the Window
 // menu at the frame they had last time, their frames stored whenever they come to rest.
-#include "core/app/ScreenFit.h"
 #include "customWin/AppDelegate.h"
-#include "customWin/DesktopScreens.h"
 #include "customWin/gradationWindow.h"
 #include "customWin/mainWindow.h"
 #include "customWin/searchWindow.h"
@@ -13,9 +11,9 @@ namespace orrery::window {
 void AppDelegate::openGradationWindow() {
     if (gradationWindow_ == nullptr) {
         gradationWindow_ = new gradationWindow(mainWindow_);
-        rememberFrame(*gradationWindow_, state_.gradationFrame, state_.isGradationOpen, '1');
+        keepFrame(*gradationWindow_, state_.gradationFrame, '1');
     }
-    showSecondaryWindow(*gradationWindow_, state_.gradationFrame, state_.isGradationOpen);
+    gradationWindow_->bringUp(mainWindow_->frameGeometry());
 }
 
 void AppDelegate::openSearchWindow() {
@@ -29,7 +27,7 @@ void AppDelegate::openSearchWindow() {
                 return planets;
             },
             mainWindow_);
-        rememberFrame(*searchWindow_, state_.searchFrame, state_.isSearchOpen, '2');
+        keepFrame(*searchWindow_, state_.searchFrame, '2');
         connect(searchWindow_, &searchWindow::planetChosen, this, &AppDelegate::hitText1Selected);
         // The list follows the planets while the window is open.
         const auto refresh = [this] {
@@ -40,32 +38,16 @@ void AppDelegate::openSearchWindow() {
         connect(planetModel_, &QAbstractItemModel::modelReset, searchWindow_, refresh);
         connect(planetModel_, &PlanetTableModel::rowCountChanged, searchWindow_, refresh);
     }
-    showSecondaryWindow(*searchWindow_, state_.searchFrame, state_.isSearchOpen);
+    searchWindow_->bringUp(mainWindow_->frameGeometry());
 }
 
-// The frame is stored in table Windows whenever the window comes to rest and when it closes
-// (a move just before closing has not come to rest), and kept for its next opening.
-void AppDelegate::rememberFrame(FramedWindow& window, ScreenRect& lastFrame, bool& isOpen,
-                                char windowNumber) {
-    connect(&window, &FramedWindow::frameSettled, this,
-            [this, &window, windowNumber] { storeFrame(window.frameGeometry(), windowNumber); });
-    connect(&window, &FramedWindow::closing, this,
-            [this, &window, &lastFrame, &isOpen, windowNumber] {
-                lastFrame = toScreenRect(window.frameGeometry());
-                storeFrame(window.frameGeometry(), windowNumber);
-                isOpen = false;
-            });
-}
-
-void AppDelegate::showSecondaryWindow(FramedWindow& window, const ScreenRect& lastFrame,
-                                      bool& isOpen) {
-    if (!window.isVisible())
-        window.showAtFrame(toQRect(secondaryWindowFrame(
-            lastFrame, {window.frameGeometry().width(), window.frameGeometry().height()},
-            toScreenRect(mainWindow_->frameGeometry()), availableScreens())));
-    isOpen = true;
-    window.raise();
-    window.activateWindow();
+// The window opens first at the frame stored at start, later where it last closed; its
+// frame goes into its row of table Windows whenever the window says so.
+void AppDelegate::keepFrame(FramedWindow& window, const ScreenRect& storedFrame,
+                            char windowNumber) {
+    window.setLastFrame(storedFrame);
+    connect(&window, &FramedWindow::frameToStore, this,
+            [this, windowNumber](const QRect& frame) { storeFrame(frame, windowNumber); });
 }
 
 } // namespace orrery::window

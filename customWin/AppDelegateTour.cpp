@@ -81,10 +81,9 @@ void AppDelegate::back7Clicked() {
 // Once the box has been switched at all, the tour stays off at later starts, whichever way
 // the box now stands, until the Preferences say otherwise.
 void AppDelegate::dontshow7Clicked(bool on) {
-    constexpr int kTourSwitch = 2;
     if (accessoryView1p_ != nullptr)
-        accessoryView1p_->setGeneralSwitch(kTourSwitch, on);
-    settings_.saveData2("1", "Value02");
+        accessoryView1p_->setGeneralSwitch(GeneralSwitch::skipTour, on);
+    settings_.saveData2("1", generalField(GeneralSwitch::skipTour));
 }
 
 } // namespace orrery::window

@@ -1,13 +1,12 @@
-// The main window's chrome: the title bar and its rollover, the document size fields and
+// The main window's chrome: the title bar, the document size fields and
 // the resize around the document, full screen, and the stored frame.
 #include "core/app/DocumentArea.h"
 #include "core/model/TextNumber.h"
 #include "customWin/AppDelegate.h"
 #include "customWin/Background/BackgroundView10.h"
 #include "customWin/FieldValidity.h"
-#include "customWin/ImageButton.h"
 #include "customWin/Strings.h"
-#include "customWin/TitleLabel.h"
+#include "customWin/TitleBar.h"
 #include "customWin/gradationWindow.h"
 #include "customWin/headerView.h"
 #include "customWin/mainView.h"
@@ -15,7 +14,6 @@
 #include "customWin/screenView.h"
 #include "customWin/searchWindow.h"
 
-#include <QApplication>
 #include <QLineEdit>
 #include <QScreen>
 
@@ -26,21 +24,6 @@ namespace {
 
 // Every size the window's own resizing gives, one after another, is one step to undo.
 constexpr int kWindowResizeMergeKey = std::numeric_limits<int>::max();
-
-constexpr int kButtonSize = 16;
-constexpr int kButtonTop = 4; // 20 below the window's top edge, counted to the bottom
-constexpr int kTitleTop = 3;  // 28 below the top edge, counted to the bottom
-constexpr int kTitleHeight = 25;
-
-ImageButton* makeTitleButton(const char* name, const char* image, const char* accessibleKey,
-                             QWidget* parent) {
-    auto* button = new ImageButton(QLatin1String(image), parent);
-    button->setObjectName(QLatin1String(name));
-    button->setAccessibleName(text(accessibleKey));
-    button->setToolTip(button->accessibleName());
-    button->resize(kButtonSize, kButtonSize);
-    return button;
-}
 
 } // namespace
 
@@ -59,62 +42,21 @@ void AppDelegate::registerWindowObservers() {
 }
 
 void AppDelegate::buildTitleBar() {
-    QWidget& content = mainWindow_->content();
-    titleLabel0_ = new TitleLabel(&content);
-    titleLabel0_->setObjectName(QStringLiteral("titleLabel0"));
-    titleLabel0_->setText(appName_);
-    closeButton0_ =
-        makeTitleButton("closeButton0", "close-active-color", "accessibleCloseButton", &content);
-    minButton0_ = makeTitleButton("minButton0", "minimize-active-color", "accessibleMinimizeButton",
-                                  &content);
-    maxButton0_ =
-        makeTitleButton("maxButton0", "zoom-active-color", "accessibleZoomButton", &content);
-    fullButton0_ =
-        makeTitleButton("fullButton0", "fullImage", "accessibleFullScreenButton", &content);
-    connect(closeButton0_, &QAbstractButton::clicked, this, &AppDelegate::closeWindowClicked);
-    connect(minButton0_, &QAbstractButton::clicked, this, &AppDelegate::minimizeWindowClicked);
-    connect(maxButton0_, &QAbstractButton::clicked, this, &AppDelegate::maximizeWindowClicked);
-    connect(fullButton0_, &QAbstractButton::clicked, this, &AppDelegate::fullWindowClicked);
-    connect(titleLabel0_, &TitleLabel::doubleClicked, this, &AppDelegate::maximizeWindowClicked);
-    for (ImageButton* button : {closeButton0_, minButton0_, maxButton0_}) {
-        connect(button, &ImageButton::pointerEntered, this, &AppDelegate::mouseEntered);
-        connect(button, &ImageButton::pointerLeft, this, &AppDelegate::mouseExited);
-    }
-    for (QWidget* control : titleBarControls())
-        control->show();
-    fullButton0_->setVisible(state_.canEnterFull);
+    titleBar_ = new TitleBar(&mainWindow_->content());
+    titleBar_->setTitle(appName_);
+    connect(titleBar_, &TitleBar::closeClicked, this, &AppDelegate::closeWindowClicked);
+    connect(titleBar_, &TitleBar::minimizeClicked, this, &AppDelegate::minimizeWindowClicked);
+    connect(titleBar_, &TitleBar::zoomClicked, this, &AppDelegate::maximizeWindowClicked);
+    connect(titleBar_, &TitleBar::fullScreenClicked, this, &AppDelegate::fullWindowClicked);
+    titleBar_->setFullScreenOffered(state_.canEnterFull);
+    titleBar_->show();
     windowWillResize();
 }
 
-QList<QWidget*> AppDelegate::titleBarControls() const {
-    return {titleLabel0_, closeButton0_, minButton0_, maxButton0_, fullButton0_};
-}
-
-// Hovering any of the three window buttons lights all three.
-void AppDelegate::mouseEntered() {
-    closeButton0_->setImage(QStringLiteral("close-rollover-color"));
-    minButton0_->setImage(QStringLiteral("minimize-rollover-color"));
-    maxButton0_->setImage(QStringLiteral("zoom-rollover-color"));
-}
-
-void AppDelegate::mouseExited() {
-    closeButton0_->setImage(QStringLiteral("close-active-color"));
-    minButton0_->setImage(QStringLiteral("minimize-active-color"));
-    maxButton0_->setImage(QStringLiteral("zoom-active-color"));
-}
-
 void AppDelegate::windowWillResize() {
-    if (titleLabel0_ == nullptr)
+    if (titleBar_ == nullptr)
         return;
-    const int width = mainWindow_->width();
-    titleLabel0_->setGeometry(0, kTitleTop, width, kTitleHeight);
-    closeButton0_->move(8, kButtonTop);
-    minButton0_->move(28, kButtonTop);
-    maxButton0_->move(48, kButtonTop);
-    fullButton0_->move(width - 20, kButtonTop);
-    // The buttons lie over the title, which spans the whole width.
-    for (QWidget* control : titleBarControls())
-        control->raise();
+    titleBar_->spanWidth(mainWindow_->width());
     mainWindow_->content().update();
 }
 
@@ -248,8 +190,7 @@ void AppDelegate::fullWindowClicked() {
 
 void AppDelegate::windowWillEnterFullscreen() {
     state_.enteringFull = true;
-    for (QWidget* control : titleBarControls())
-        control->hide();
+    titleBar_->hide();
     mainWindow_->content().setTitleStripShown(false);
     menus_.windowFullScreen->setChecked(true);
 }
@@ -265,9 +206,7 @@ void AppDelegate::windowDidEnterFullscreen() {
 void AppDelegate::windowDidExitFullscreen() {
     state_.enteringFull = false;
     mainWindow_->content().setTitleStripShown(true);
-    for (QWidget* control : titleBarControls())
-        control->show();
-    fullButton0_->setVisible(state_.canEnterFull);
+    titleBar_->show();
     menus_.windowFullScreen->setChecked(false);
     windowWillResize();
     refreshViews();

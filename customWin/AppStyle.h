@@ -8,4 +8,8 @@ namespace orrery::window {
 // dialogs belong to the dark window around the scene.
 void applyAppStyle(QApplication& application);
 
+// Sheets and popovers float over the window with a slightly lighter face and a hairline rim.
+inline constexpr const char* kFloatingFace = "#262d47";
+inline constexpr const char* kFloatingRim = "#4d587e";
+
 } // namespace orrery::window

@@ -1,6 +1,6 @@
 #include "customWin/CameraPopover.h"
 
-#include "customWin/FieldValidity.h"
+#include "customWin/CheckedQuietly.h"
 #include "customWin/Strings.h"
 #include "customWin/tableView1/colorWell1_09.h"
 
@@ -49,50 +49,64 @@ QFormLayout* formOf(QWidget* popover) {
     return form;
 }
 
-void nameFields(std::initializer_list<QLineEdit*> fields, const QString& what) {
-    const char* axes[] = {"x", "y", "z"};
-    int i = 0;
-    for (QLineEdit* field : fields)
-        field->setAccessibleName(what + QLatin1Char(' ') + QLatin1String(axes[i++]));
+// The position's fields are named by what they place and their axis.
+void nameAxes(QLineEdit* x, QLineEdit* y, QLineEdit* z, const QString& what) {
+    const std::pair<QLineEdit*, const char*> axes[] = {{x, "x"}, {y, "y"}, {z, "z"}};
+    for (const auto& [field, axis] : axes)
+        field->setAccessibleName(what + QLatin1Char(' ') + QLatin1String(axis));
 }
 
 } // namespace
 
 CameraPopover::CameraPopover(QWidget* parent)
-    : Popover(parent), xfov_(makeField("xfovField5", this)), yfov_(makeField("yfovField5", this)),
-      x_(makeField("xField5", this)), y_(makeField("yField5", this)),
-      z_(makeField("zField5", this)), ortho_(new QCheckBox(text("cameraOrtho"), this)),
+    : Popover(parent), fields_{makeField("xfovField5", this), makeField("yfovField5", this),
+                               makeField("xField5", this), makeField("yField5", this),
+                               makeField("zField5", this)},
+      ortho_(new QCheckBox(text("cameraOrtho"), this)),
       adjustZ_(new QCheckBox(text("cameraAdjustZ"), this)),
       default_(new QPushButton(text("cameraDefault"), this)) {
     setObjectName(QStringLiteral("popOver5"));
     ortho_->setObjectName(QStringLiteral("orthoButton5"));
     adjustZ_->setObjectName(QStringLiteral("adjustZButton5"));
     default_->setObjectName(QStringLiteral("defaultButton5"));
-    xfov_->setAccessibleName(text("cameraXfovLabel"));
-    yfov_->setAccessibleName(text("cameraYfovLabel"));
-    nameFields({x_, y_, z_}, text("cameraPositionLabel"));
+    fields_[cameraField::xfov]->setAccessibleName(text("cameraXfovLabel"));
+    fields_[cameraField::yfov]->setAccessibleName(text("cameraYfovLabel"));
+    nameAxes(fields_[cameraField::x], fields_[cameraField::y], fields_[cameraField::z],
+             text("cameraPositionLabel"));
     QFormLayout* form = formOf(this);
-    form->addRow(text("cameraXfovLabel"), xfov_);
-    form->addRow(text("cameraYfovLabel"), yfov_);
-    form->addRow(text("cameraPositionLabel"), row({x_, y_, z_}, this));
+    form->addRow(text("cameraXfovLabel"), fields_[cameraField::xfov]);
+    form->addRow(text("cameraYfovLabel"), fields_[cameraField::yfov]);
+    form->addRow(
+        text("cameraPositionLabel"),
+        row({fields_[cameraField::x], fields_[cameraField::y], fields_[cameraField::z]}, this));
     form->addRow(QString(), ortho_);
     form->addRow(QString(), adjustZ_);
     form->addRow(QString(), row({default_}, this));
 }
 
+void CameraPopover::showCamera(const CameraFields& camera) {
+    showTexts(fields_, camera.texts);
+    setCheckedQuietly(*ortho_, camera.orthographic);
+    setCheckedQuietly(*adjustZ_, camera.zRange);
+}
+
 LightPopover::LightPopover(QWidget* parent)
-    : Popover(parent), color_(new colorWell1_09(this)), x_(makeField("xField4", this)),
-      y_(makeField("yField4", this)), z_(makeField("zField4", this)),
+    : Popover(parent), color_(new colorWell1_09(this)), fields_{makeField("xField4", this),
+                                                                makeField("yField4", this),
+                                                                makeField("zField4", this)},
       default_(new QPushButton(text("lightDefault"), this)) {
     setObjectName(QStringLiteral("popOver4"));
     color_->setObjectName(QStringLiteral("colorWell4"));
     color_->setAccessibleName(text("lightColorLabel"));
     color_->setFixedSize(64, 28);
     default_->setObjectName(QStringLiteral("defaultButton4"));
-    nameFields({x_, y_, z_}, text("lightPositionLabel"));
+    nameAxes(fields_[lightField::x], fields_[lightField::y], fields_[lightField::z],
+             text("lightPositionLabel"));
     QFormLayout* form = formOf(this);
     form->addRow(text("lightColorLabel"), color_);
-    form->addRow(text("lightPositionLabel"), row({x_, y_, z_}, this));
+    form->addRow(
+        text("lightPositionLabel"),
+        row({fields_[lightField::x], fields_[lightField::y], fields_[lightField::z]}, this));
     form->addRow(QString(), row({default_}, this));
 }
 

@@ -1,5 +1,8 @@
 #include "customWin/FramedWindow.h"
 
+#include "core/app/ScreenFit.h"
+#include "customWin/DesktopScreens.h"
+
 #include <QCloseEvent>
 
 #include <utility>
@@ -12,8 +15,18 @@ FramedWindow::FramedWindow(QWidget* parent) : QWidget(parent, Qt::Tool) {
     connect(&settle_, &QTimer::timeout, this, [this] {
         // A desktop that draws no rim never makes the frame differ from the window.
         wantedFrame_.reset();
-        emit frameSettled();
+        emit frameToStore(frameGeometry());
     });
+}
+
+void FramedWindow::bringUp(const QRect& mainFrame) {
+    if (!isVisible()) {
+        const PixelSize size{frameGeometry().width(), frameGeometry().height()};
+        showAtFrame(toQRect(
+            secondaryWindowFrame(lastFrame_, size, toScreenRect(mainFrame), availableScreens())));
+    }
+    raise();
+    activateWindow();
 }
 
 // A top-level widget's move() places its frame; resize() sizes what lies inside the rim.
@@ -50,7 +63,8 @@ void FramedWindow::resizeEvent(QResizeEvent* event) {
 void FramedWindow::closeEvent(QCloseEvent* event) {
     settle_.stop();
     wantedFrame_.reset();
-    emit closing();
+    lastFrame_ = toScreenRect(frameGeometry());
+    emit frameToStore(frameGeometry());
     event->accept();
 }
 

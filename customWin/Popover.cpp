@@ -1,5 +1,7 @@
 #include "customWin/Popover.h"
 
+#include "customWin/AppStyle.h"
+
 #include <QScreen>
 
 namespace orrery::window {
@@ -11,8 +13,9 @@ constexpr int kGap = 6;
 
 Popover::Popover(QWidget* parent) : QFrame(parent, Qt::Popup) {
     setFrameShape(QFrame::StyledPanel);
-    setStyleSheet(QStringLiteral("orrery--window--Popover { background: #262d47;"
-                                 " border: 1px solid #4d587e; border-radius: 8px; }"));
+    setStyleSheet(QStringLiteral("orrery--window--Popover { background: %1;"
+                                 " border: 1px solid %2; border-radius: 8px; }")
+                      .arg(QLatin1String(kFloatingFace), QLatin1String(kFloatingRim)));
 }
 
 void Popover::showBeside(const QWidget& button) {

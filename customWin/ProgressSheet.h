@@ -19,7 +19,6 @@ public:
     explicit Spinner(QWidget* parent);
     void start();
     void stop();
-    int turns() const { return steps_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -1,5 +1,6 @@
 #include "customWin/Sheet.h"
 
+#include "customWin/AppStyle.h"
 #include "resources/Artwork.h"
 
 #include <QDialogButtonBox>
@@ -17,8 +18,8 @@ void makeSheet(QDialog& sheet) {
     if (auto* box = qobject_cast<QMessageBox*>(&sheet))
         box->setIconPixmap(artwork::applicationIcon().pixmap(64, 64));
     // A hairline rim and a slightly lighter face set the frameless sheet off the window.
-    sheet.setStyleSheet(QStringLiteral("QDialog { background: #262d47;"
-                                       " border: 1px solid #4d587e; }"));
+    sheet.setStyleSheet(QStringLiteral("QDialog { background: %1; border: 1px solid %2; }")
+                            .arg(QLatin1String(kFloatingFace), QLatin1String(kFloatingRim)));
 }
 
 void placeAsSheet(QDialog& sheet, const QWidget& window) {

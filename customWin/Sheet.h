@@ -13,7 +13,6 @@ class QWidget;
 namespace orrery::window {
 
 inline constexpr int kFirstButton = 1000;
-inline constexpr int kSecondButton = 1001;
 inline constexpr int kSheetDrop = 25;
 
 // Makes a dialog a sheet of the window: no frame of its own (it hangs from the window's

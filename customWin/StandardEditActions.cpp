@@ -10,11 +10,11 @@
 #include <functional>
 
 namespace orrery::window {
-namespace {
-
 QLineEdit* focusedField() {
     return qobject_cast<QLineEdit*>(QApplication::focusWidget());
 }
+
+namespace {
 
 void onFocusedField(QAction* item, std::function<void(QLineEdit&)> command) {
     QObject::connect(item, &QAction::triggered, item, [command = std::move(command)] {

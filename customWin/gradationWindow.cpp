@@ -1,8 +1,9 @@
 #include "customWin/gradationWindow.h"
 
 #include "core/styles/GradientLibrary.h"
-#include "core/styles/StyleImages.h"
 #include "customWin/Strings.h"
+#include "customWin/tableView1/Swatches.h"
+#include "imageio/QtImageWrap.h"
 
 #include <QListWidget>
 #include <QPainter>
@@ -15,14 +16,13 @@ namespace {
 constexpr int kSwatch = 64;
 
 // A swatch drawn at the screen's scale, with rounded corners and a hairline rim.
-QIcon swatchIcon(const gradientLibrary& library, std::int64_t number, qreal scale) {
+QIcon swatchIcon(std::int64_t number, qreal scale) {
     const int side = static_cast<int>(kSwatch * scale);
-    const Image gradient = makeGradientImage(library.getGradient(number), side, side, 270.0);
+    const Image gradient = styleSwatchImage(number, side);
     QPixmap pixmap(side, side);
     pixmap.fill(Qt::transparent);
     if (!gradient.isNull()) {
-        const QImage wrapped(gradient.pixels.data(), gradient.width, gradient.height,
-                             static_cast<qsizetype>(gradient.stride()), QImage::Format_RGBA8888);
+        const QImage wrapped = imageio::wrapImage(gradient);
         QPainter painter(&pixmap);
         painter.setRenderHint(QPainter::Antialiasing);
         QPainterPath shape;
@@ -53,11 +53,10 @@ gradationWindow::gradationWindow(QWidget* parent)
     swatches_->setGridSize(QSize(kSwatch + 22, kSwatch + 28));
     swatches_->setSpacing(4);
     swatches_->setSelectionMode(QAbstractItemView::SingleSelection);
-    const gradientLibrary library;
     const qreal scale = devicePixelRatioF();
     for (std::int64_t number = 0; number < gradientLibrary::kCatalogueSize; ++number) {
-        auto* item = new QListWidgetItem(swatchIcon(library, number, scale),
-                                         QString::number(number), swatches_);
+        auto* item =
+            new QListWidgetItem(swatchIcon(number, scale), QString::number(number), swatches_);
         item->setToolTip(textWith("gradientNumber", QString::number(number)));
         item->setTextAlignment(Qt::AlignHCenter);
     }
@@ -65,10 +64,6 @@ gradationWindow::gradationWindow(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(swatches_);
     resize(560, 480);
-}
-
-int gradationWindow::swatchCount() const {
-    return swatches_->count();
 }
 
 } // namespace orrery::window

@@ -13,8 +13,6 @@ class gradationWindow : public FramedWindow {
 public:
     explicit gradationWindow(QWidget* parent);
 
-    int swatchCount() const;
-
 private:
     QListWidget* swatches_;
 };

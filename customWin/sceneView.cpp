@@ -64,10 +64,6 @@ QWindow& sceneView::surface() {
     return *surface_;
 }
 
-const QString& sceneView::rendererProblem() const {
-    return surface_->rendererProblem();
-}
-
 void sceneView::resizeEvent(QResizeEvent*) {
     // The scene knows its size before its window first draws, so that a press finds planets.
     surface_->scene().setViewSize(width(), height());

@@ -45,7 +45,6 @@ public:
     void redraw();
     // The window that takes the mouse.
     QWindow& surface();
-    const QString& rendererProblem() const;
 
 signals:
     // "0" when the press hit no planet.

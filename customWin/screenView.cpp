@@ -3,6 +3,7 @@
 #include "core/styles/AxisCross.h"
 #include "core/styles/StyleImages.h"
 #include "customWin/ColorConversion.h"
+#include "imageio/QtImageWrap.h"
 
 #include <QPainter>
 
@@ -33,9 +34,7 @@ void screenView::changeBackColor(long index) {
     } else {
         // The squares are counted from the bottom-left corner, where the scene has its
         // origin; the picture's rows run from the top.
-        myImage_ = QImage(background_.pixels.data(), background_.width, background_.height,
-                          static_cast<qsizetype>(background_.stride()), QImage::Format_RGBA8888)
-                       .mirrored(false, true);
+        myImage_ = imageio::wrapImage(background_).mirrored(false, true);
     }
     picture_ = QImage();
     update();

@@ -22,7 +22,6 @@ public:
     void refreshMe();
     // The flag means "show the axes".
     void hideAxes(bool show);
-    QSize getScreenSize() const { return size(); }
 
     long currentColor() const { return currentColor_; }
     bool showsAxes() const { return showAxes_; }

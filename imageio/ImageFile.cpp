@@ -45,14 +45,6 @@ std::string writeImageFile(const Image& image, const std::string& path, ExportFo
     return writeFileAtomically(path, encoded.bytes);
 }
 
-std::string exportImages1(const Image& image, const std::string& path, long formatNumber,
-                          float compression) {
-    const std::optional<ExportFormat> format = formatForNumber(formatNumber);
-    if (!format)
-        return "there is no picture format number " + std::to_string(formatNumber);
-    return writeImageFile(image, path, *format, compression);
-}
-
 std::optional<Image> readImageFile(const std::string& path, std::string& error) {
     QFile file(QString::fromStdString(path));
     if (QFileInfo(file).isDir()) {

@@ -17,11 +17,6 @@ namespace orrery::imageio {
 std::string writeImageFile(const Image& image, const std::string& path, ExportFormat format,
                            float compression, const std::vector<PictureText>& texts = {});
 
-// The export's writer: format number 1 (BMP) to 6 (TIFF); any other number writes nothing
-// and is reported.
-std::string exportImages1(const Image& image, const std::string& path, long formatNumber,
-                          float compression);
-
 // Reads any picture this program writes (and what Qt reads), straight alpha, top row first.
 // Gives none, with the reason, for a missing, unreadable or damaged file.
 std::optional<Image> readImageFile(const std::string& path, std::string& error);

@@ -25,10 +25,8 @@ struct AppState {
     bool enteringFull = false;
     bool isPreferencesOpen = false;
     bool isCreatePlanetOpen = false;
-    bool isGradationOpen = false;
-    bool isSearchOpen = false;
-    ScreenRect gradationFrame; // last frame of the gradation window (Windows row 1)
-    ScreenRect searchFrame;    // last frame of the search window (Windows row 2)
+    ScreenRect gradationFrame; // the gradation window's frame stored at start (Windows row 1)
+    ScreenRect searchFrame;    // the search window's frame stored at start (Windows row 2)
     bool introductionWindowOpen = false;
     int currentPage = 1;
     long currentBackground = 0;

@@ -56,7 +56,7 @@ std::string_view stepNameKey(const EditStep& step) {
 std::optional<bool> showAllBoxAfter(const EditStep& step, bool undone) {
     if (step.kind != EditKind::showAll || step.records.empty() || !step.records.front().after)
         return std::nullopt;
-    const bool shown = step.records.front().after->state == "1";
+    const bool shown = isShown(*step.records.front().after);
     return undone ? !shown : shown;
 }
 

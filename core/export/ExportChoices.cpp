@@ -1,5 +1,7 @@
 #include "core/export/ExportChoices.h"
 
+#include "core/settings/SettingsReaders.h"
+
 #include <algorithm>
 
 namespace orrery {
@@ -9,15 +11,14 @@ float compressionFactor(int sliderValue) {
 }
 
 bool canExport(const std::vector<PlanetRecord>& planets) {
-    return std::any_of(planets.begin(), planets.end(),
-                       [](const PlanetRecord& planet) { return planet.state == "1"; });
+    return std::any_of(planets.begin(), planets.end(), isShown);
 }
 
 IncludeBackgroundChoice includeBackgroundChoice(long currentBackground,
-                                                std::string_view includePreference) {
+                                                const std::vector<std::string>& general) {
     if (currentBackground == 0)
         return {};
-    return {true, includePreference == "1"};
+    return {true, generalText(general, GeneralSwitch::includeBackground) == "1"};
 }
 
 } // namespace orrery

@@ -3,7 +3,7 @@
 #include "core/export/ExportFormat.h"
 #include "core/model/PlanetList.h"
 
-#include <string_view>
+#include <string>
 #include <vector>
 
 // The rules that set up the export question and the save panel from the stored
@@ -23,12 +23,12 @@ inline bool canExport(const PlanetList& planets) {
 }
 
 // The include-background check box of the question: usable only when a background colour
-// is chosen, and then on when the general preference (General position 3) is "1".
+// is chosen, and then on when its general switch holds exactly "1".
 struct IncludeBackgroundChoice {
     bool enabled = false;
     bool on = false;
 };
 IncludeBackgroundChoice includeBackgroundChoice(long currentBackground,
-                                                std::string_view includePreference);
+                                                const std::vector<std::string>& general);
 
 } // namespace orrery

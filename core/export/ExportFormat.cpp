@@ -36,10 +36,6 @@ std::optional<ExportFormat> formatForRow(long row) {
     return kExportFormats[static_cast<std::size_t>(row)].format;
 }
 
-std::optional<ExportFormat> formatForNumber(long number) {
-    return formatForRow(number - 1);
-}
-
 std::string lowercaseExtension(std::string_view path) {
     const std::size_t slash = path.find_last_of('/');
     const std::string_view name = slash == std::string_view::npos ? path : path.substr(slash + 1);

@@ -36,12 +36,6 @@ inline int rowOf(ExportFormat format) {
     return static_cast<int>(format);
 }
 
-// The writer numbers formats from 1 (BMP) to 6 (TIFF); any other number writes nothing.
-std::optional<ExportFormat> formatForNumber(long number);
-inline int numberOf(ExportFormat format) {
-    return rowOf(format) + 1;
-}
-
 // The extension of a path's file name, in lower case, without the dot; empty when the name
 // has none (a leading dot starts a hidden name, not an extension).
 std::string lowercaseExtension(std::string_view path);

@@ -45,8 +45,7 @@ std::vector<std::size_t> PlanetList::indicesOf(std::string_view tsecs) const {
 }
 
 bool PlanetList::anyVisible() const {
-    return std::any_of(records_.begin(), records_.end(),
-                       [](const PlanetRecord& r) { return r.state == "1"; });
+    return std::any_of(records_.begin(), records_.end(), isShown);
 }
 
 } // namespace orrery

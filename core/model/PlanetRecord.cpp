@@ -55,6 +55,10 @@ std::string* PlanetRecord::text(PlanetKey key) {
     return const_cast<std::string*>(std::as_const(*this).text(key));
 }
 
+bool isShown(const PlanetRecord& record) {
+    return record.state == "1";
+}
+
 PlanetRecord newPlanetRecord(std::string tsecs, std::string name) {
     PlanetRecord record;
     record.tsecs = std::move(tsecs);

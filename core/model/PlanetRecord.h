@@ -60,6 +60,10 @@ struct PlanetRecord {
     friend bool operator==(const PlanetRecord&, const PlanetRecord&) = default;
 };
 
+// A planet is drawn, and counts for export, while its state is the text "1"; any other
+// text hides it.
+bool isShown(const PlanetRecord& record);
+
 // A new planet as the creation sheet makes it.
 PlanetRecord newPlanetRecord(std::string tsecs, std::string name);
 

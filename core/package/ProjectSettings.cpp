@@ -2,6 +2,7 @@
 
 #include "core/model/TextNumber.h"
 #include "core/package/PropertyList.h"
+#include "core/validate/CameraLightChecks.h"
 #include "core/validate/Validators.h"
 
 #include <algorithm>
@@ -105,18 +106,13 @@ ProjectChecks checkProjectSettings(const std::array<std::string, setting::readCo
     checks.width = isPackageWidth(settings[setting::width]);
     checks.height = isPackageHeight(settings[setting::height]);
     checks.background = isBackground(settings[setting::background]);
-    constexpr std::size_t fov = setting::cameraXFov;
-    checks.cameraFields = {validateFov(settings[fov]), validateFov(settings[fov + 1]),
-                           validatePosNegFloat(settings[fov + 2]),
-                           validatePosNegFloat(settings[fov + 3]),
-                           validatePosOnlyFloat(settings[fov + 4])};
-    const auto passed = [](bool field) {
-        return field;
-    };
-    checks.camera = std::all_of(checks.cameraFields.begin(), checks.cameraFields.end(), passed);
-    for (std::size_t i = 0; i < checks.lightFields.size(); ++i)
-        checks.lightFields[i] = validatePosNegFloat(settings[setting::lightX + i]);
-    checks.light = std::all_of(checks.lightFields.begin(), checks.lightFields.end(), passed);
+    const std::span<const std::string, setting::readCount> all(settings);
+    const auto camera = checkCameraFields(all.subspan<setting::cameraXFov, cameraField::count>());
+    checks.cameraFields = camera.valid;
+    checks.camera = camera.all;
+    const auto light = checkLightFields(all.subspan<setting::lightX, lightField::count>());
+    checks.lightFields = light.valid;
+    checks.light = light.all;
     return checks;
 }
 

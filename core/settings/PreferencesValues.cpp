@@ -4,14 +4,6 @@
 #include <system_error>
 
 namespace orrery {
-namespace {
-
-std::string generalField(int number) {
-    return (number < 10 ? "Value0" : "Value") + std::to_string(number);
-}
-
-} // namespace
-
 PreferencesValues shownPreferences(Settings& settings, const std::filesystem::path& documents) {
     PreferencesValues values;
     values.openFolder = openFolder(settings.preferenceArray, documents);
@@ -20,9 +12,8 @@ PreferencesValues shownPreferences(Settings& settings, const std::filesystem::pa
     settings.editData1(1, values.exportFolder.string());
     values.formatRow = preferredFormatRow(settings.preferenceArray);
     values.compression = compressionPercent(settings.preferenceArray);
-    for (int number = 1; number <= kGeneralSwitchCount; ++number)
-        values.general[static_cast<std::size_t>(number - 1)] =
-            generalSwitch(settings.checkboxArray, number);
+    for (std::size_t i = 0; i < kGeneralSwitchCount; ++i)
+        values.general[i] = generalSwitch(settings.checkboxArray, static_cast<GeneralSwitch>(i));
     return values;
 }
 
@@ -31,9 +22,9 @@ void savePreferences(Settings& settings, const PreferencesValues& values) {
     settings.saveData1(values.exportFolder.string(), "Value02");
     settings.saveData1(std::to_string(values.formatRow), "Value03");
     settings.saveData1(std::to_string(values.compression), "Value04");
-    for (int number = 1; number <= kGeneralSwitchCount; ++number)
-        settings.saveData2(values.general[static_cast<std::size_t>(number - 1)] ? "1" : "0",
-                           generalField(number));
+    for (std::size_t i = 0; i < kGeneralSwitchCount; ++i)
+        settings.saveData2(values.general[i] ? "1" : "0",
+                           generalField(static_cast<GeneralSwitch>(i)));
     settings.reloadPreferencesAndGeneral();
     settings.setMain();
 }

@@ -8,8 +8,6 @@
 
 namespace orrery {
 
-inline constexpr int kGeneralSwitchCount = 12;
-
 // What the Preferences sheet shows and saves: the two folders, the export format and
 // compression, and the twelve general switches.
 struct PreferencesValues {

@@ -81,10 +81,21 @@ int compressionPercent(const std::vector<std::string>& preferences) {
     return static_cast<int>(std::clamp<std::int64_t>(percent, 0, 100));
 }
 
-bool generalSwitch(const std::vector<std::string>& general, int number) {
-    if (number < 1)
-        return false;
-    return integerValue(entry(general, static_cast<std::size_t>(number - 1))) != 0;
+std::size_t generalPosition(GeneralSwitch which) {
+    return static_cast<std::size_t>(which);
+}
+
+std::string generalField(GeneralSwitch which) {
+    const std::size_t number = generalPosition(which) + 1;
+    return (number < 10 ? "Value0" : "Value") + std::to_string(number);
+}
+
+bool generalSwitch(const std::vector<std::string>& general, GeneralSwitch which) {
+    return integerValue(generalText(general, which)) != 0;
+}
+
+std::string generalText(const std::vector<std::string>& general, GeneralSwitch which) {
+    return entry(general, generalPosition(which));
 }
 
 WindowPlacement mainWindowPlacement(bool windowsFileExists, const std::vector<std::string>& windows,

@@ -32,8 +32,32 @@ int exportQuestionFormatRow(const std::vector<std::string>& preferences);
 // means 85.
 int compressionPercent(const std::vector<std::string>& preferences);
 
-// General 0 to 11: the twelve general switches, by number 1 to 12.
-bool generalSwitch(const std::vector<std::string>& general, int number);
+// The twelve general switches, in the order of their rows "Value01" to "Value12" of table
+// General. The first five change what the program does; the others are stored and shown.
+enum class GeneralSwitch {
+    centreAtStart,       // the main window opens centred at its size, not at its stored frame
+    skipTour,            // the introduction tour does not open at start
+    deleteWithoutAsking, // Delete removes the selected planet with no question
+    includeBackground,   // the export's include-background box starts on
+    clearWithoutAsking,  // New clears the system with no question of its own
+    storedOnly6,
+    storedOnly7,
+    storedOnly8,
+    storedOnly9,
+    storedOnly10,
+    storedOnly11,
+    storedOnly12,
+};
+inline constexpr std::size_t kGeneralSwitchCount = 12;
+
+// The switch's position in the General list, and the field of its row ("Value02").
+std::size_t generalPosition(GeneralSwitch which);
+std::string generalField(GeneralSwitch which);
+
+// Whether a switch is on: its value is a whole number other than 0.
+bool generalSwitch(const std::vector<std::string>& general, GeneralSwitch which);
+// The stored text of a switch, for the one rule that wants exactly "1".
+std::string generalText(const std::vector<std::string>& general, GeneralSwitch which);
 
 // Where the main window goes at start, and the frames the secondary windows had, from the
 // Windows values (Width, Height, Left, Top of windows 0, 1 and 2).

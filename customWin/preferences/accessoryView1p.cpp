@@ -96,11 +96,11 @@ QWidget* accessoryView1p::makeGeneralTab() {
     auto* layout = new QVBoxLayout(page);
     layout->setContentsMargins(16, 16, 16, 16);
     layout->setSpacing(10);
-    for (int number = 1; number <= kGeneralSwitchCount; ++number) {
-        auto* box = new QCheckBox(text(kGeneralKeys[static_cast<std::size_t>(number - 1)]), page);
+    for (std::size_t i = 0; i < kGeneralSwitchCount; ++i) {
+        auto* box = new QCheckBox(text(kGeneralKeys[i]), page);
         box->setObjectName(
-            QStringLiteral("generalCheckbox%1p").arg(number, 2, 10, QLatin1Char('0')));
-        general_[static_cast<std::size_t>(number - 1)] = box;
+            QStringLiteral("generalCheckbox%1p").arg(i + 1, 2, 10, QLatin1Char('0')));
+        general_[i] = box;
         layout->addWidget(box);
     }
     layout->addStretch(1);
@@ -156,9 +156,8 @@ void accessoryView1p::showValues(const PreferencesValues& values) {
         general_[i]->setChecked(values.general[i]);
 }
 
-void accessoryView1p::setGeneralSwitch(int number, bool on) {
-    if (number >= 1 && number <= kGeneralSwitchCount)
-        general_[static_cast<std::size_t>(number - 1)]->setChecked(on);
+void accessoryView1p::setGeneralSwitch(GeneralSwitch which, bool on) {
+    general_[generalPosition(which)]->setChecked(on);
 }
 
 PreferencesValues accessoryView1p::values() const {

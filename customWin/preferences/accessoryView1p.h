@@ -31,8 +31,7 @@ public:
     accessoryView1p();
 
     void showValues(const PreferencesValues& values);
-    // One general switch, by number 1 to 12.
-    void setGeneralSwitch(int number, bool on);
+    void setGeneralSwitch(GeneralSwitch which, bool on);
     // The values as the controls show them now.
     PreferencesValues values() const;
 

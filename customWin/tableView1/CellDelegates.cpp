@@ -100,7 +100,7 @@ void StateCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
         return;
     const QRectF frame(option.rect.center().x() - kCheckSide / 2.0 + 1,
                        option.rect.center().y() - kCheckSide / 2.0 + 1, kCheckSide, kCheckSide);
-    checkButtonStyle1_02(*painter, frame, false, false, recordAt(index).state == "1");
+    checkButtonStyle1_02(*painter, frame, false, false, isShown(recordAt(index)));
 }
 
 QWidget* StateCellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
@@ -114,7 +114,7 @@ QWidget* StateCellDelegate::createEditor(QWidget* parent, const QStyleOptionView
 }
 
 void StateCellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
-    setCheckedQuietly(*static_cast<checkButton1_02*>(editor), recordAt(index).state == "1");
+    setCheckedQuietly(*static_cast<checkButton1_02*>(editor), isShown(recordAt(index)));
 }
 
 void ChoiceCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,

@@ -15,18 +15,17 @@ inline constexpr int kPlanetColumnCount = 9;
 struct PlanetColumnInfo {
     const char* identifier; // also the key of the column's title
     PlanetKey key;
-    int tag;
 };
 inline constexpr std::array<PlanetColumnInfo, kPlanetColumnCount> kPlanetColumns{{
-    {"nameColumn", PlanetKey::name, 101},
-    {"stateColumn", PlanetKey::state, 102},
-    {"styleColumn", PlanetKey::styleindex, 103},
-    {"surfaceColumn", PlanetKey::surfaceindex, 104},
-    {"xColumn", PlanetKey::xvalue, 105},
-    {"yColumn", PlanetKey::yvalue, 106},
-    {"zColumn", PlanetKey::zvalue, 107},
-    {"radiusColumn", PlanetKey::radius, 108},
-    {"colorColumn", PlanetKey::color, 109},
+    {"nameColumn", PlanetKey::name},
+    {"stateColumn", PlanetKey::state},
+    {"styleColumn", PlanetKey::styleindex},
+    {"surfaceColumn", PlanetKey::surfaceindex},
+    {"xColumn", PlanetKey::xvalue},
+    {"yColumn", PlanetKey::yvalue},
+    {"zColumn", PlanetKey::zvalue},
+    {"radiusColumn", PlanetKey::radius},
+    {"colorColumn", PlanetKey::color},
 }};
 
 inline PlanetColumn columnAt(int column) {

@@ -3,6 +3,7 @@
 #include "core/styles/GradientLibrary.h"
 #include "core/styles/StyleImages.h"
 #include "core/styles/SurfaceNames.h"
+#include "imageio/QtImageWrap.h"
 #include "imageio/SurfaceLibrary.h"
 
 #include <QGuiApplication>
@@ -18,9 +19,7 @@ namespace {
 QPixmap fromImage(const Image& image, qreal scale) {
     if (image.isNull())
         return {};
-    QPixmap pixmap = QPixmap::fromImage(QImage(image.pixels.data(), image.width, image.height,
-                                               static_cast<qsizetype>(image.stride()),
-                                               QImage::Format_RGBA8888));
+    QPixmap pixmap = QPixmap::fromImage(imageio::wrapImage(image));
     pixmap.setDevicePixelRatio(scale);
     return pixmap;
 }
@@ -52,10 +51,13 @@ QPixmap styleSwatch(long index, int side) {
         return pixmap;
     const qreal scale = pictureScale();
     const double pixels = std::round(side * scale);
-    pixmap = fromImage(makeGradientImage(gradientLibrary().getGradient(index), pixels, pixels, 270.0),
-                       scale);
+    pixmap = fromImage(styleSwatchImage(index, pixels), scale);
     QPixmapCache::insert(key, pixmap);
     return pixmap;
+}
+
+Image styleSwatchImage(std::int64_t index, double pixels) {
+    return makeGradientImage(gradientLibrary().getGradient(index), pixels, pixels, 270.0);
 }
 
 QPixmap surfaceSwatch(long index, int height) {

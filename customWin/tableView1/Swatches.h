@@ -1,7 +1,11 @@
 #pragma once
 
+#include "core/styles/Image.h"
+
 #include <QIcon>
 #include <QPixmap>
+
+#include <cstdint>
 
 namespace orrery::window {
 
@@ -9,6 +13,8 @@ namespace orrery::window {
 // style (1 to 82) and a thumbnail per surface (1 to 48). Index 0 ("- Select one -") and
 // unknown indices have none.
 QPixmap styleSwatch(long index, int side);
+// A style's gradient as a square of that many pixels, top to bottom as a planet wears it.
+Image styleSwatchImage(std::int64_t index, double pixels);
 QPixmap surfaceSwatch(long index, int height);
 
 // True when some screen has more than one device pixel per point; the menus then show

@@ -184,19 +184,5 @@ TEST(Jpeg2000, FullQualityIsLossless_LossyKeepsTheAlphaChannel) {
     EXPECT_GE(pixelAt(*lossy, 32, 24)[3], 247);
 }
 
-TEST(ExportWriter, FormatNumbersOneToSix) {
-    QTemporaryDir folder;
-    const std::string path = folder.filePath("picture").toStdString();
-    const Image picture = samplePicture(16, 16);
-    EXPECT_NE(exportImages1(picture, path, 0, 0.85f), "");
-    EXPECT_NE(exportImages1(picture, path, 7, 0.85f), "");
-    EXPECT_FALSE(std::filesystem::exists(path));
-    // Number 5 is PNG, whatever the file is called.
-    ASSERT_EQ(exportImages1(picture, path, 5, 0.85f), "");
-    const std::vector<std::uint8_t> bytes = orrery::testing::fileBytes(path);
-    EXPECT_EQ(std::string(bytes.begin(), bytes.begin() + std::min<long>(4, std::ssize(bytes))),
-              "\x89PNG");
-}
-
 } // namespace
 } // namespace orrery::imageio

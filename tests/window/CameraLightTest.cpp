@@ -34,27 +34,32 @@ private slots:
         QTest::mouseClick(&child<QPushButton>(window, "cameraButton5"), Qt::LeftButton);
         auto& popover = child<CameraPopover>(window, "popOver5");
         QTRY_VERIFY(popover.isVisible());
-        QCOMPARE(popover.xfovField5().text(), QStringLiteral("45.0"));
-        QCOMPARE(popover.zField5().text(), QStringLiteral("500.000000"));
+        QCOMPARE(popover.field(cameraField::xfov).text(), QStringLiteral("45.0"));
+        QCOMPARE(popover.field(cameraField::z).text(), QStringLiteral("500.000000"));
         QVERIFY(popover.orthoButton5().isChecked() && popover.adjustZButton5().isChecked());
 
         QTest::mouseClick(&popover.orthoButton5(), Qt::LeftButton);
         QCOMPARE(settings().back(), std::string("1"));
         QCOMPARE(settings()[5], std::string("0"));
 
-        retype(popover.zField5(), "0");
-        QVERIFY(isRed(popover.zField5()));
+        retype(popover.field(cameraField::z), "0");
+        QVERIFY(isRed(popover.field(cameraField::z)));
         QTest::mouseClick(&popover.adjustZButton5(), Qt::LeftButton);
         QCOMPARE(settings()[4], std::string("500.000000"));
         QCOMPARE(settings()[6], std::string("1"));
-        retype(popover.zField5(), "500");
-        QVERIFY(!isRed(popover.zField5()));
-        retype(popover.xfovField5(), "95");
-        QVERIFY(isRed(popover.xfovField5()));
+        retype(popover.field(cameraField::z), "500");
+        QVERIFY(!isRed(popover.field(cameraField::z)));
+        retype(popover.field(cameraField::xfov), "95");
+        QVERIFY(isRed(popover.field(cameraField::xfov)));
         QCOMPARE(settings()[0], std::string("45.0"));
 
+        // The field of view is recorded, but a planet in view keeps its place and size.
+        app().editor().createPlanet("100", "Terra");
+        app().reloadPlanets();
         const QImage before = app().sceneview().grabFramebuffer();
-        retype(popover.xfovField5(), "60");
+        const QPoint middle = before.rect().center();
+        QVERIFY(before.pixelColor(middle) != before.pixelColor(0, 0)); // the planet shows
+        retype(popover.field(cameraField::xfov), "60");
         QCOMPARE(settings()[0], std::string("60.0"));
         QCOMPARE(app().sceneview().grabFramebuffer(), before);
         // Typing into one field is one step to undo.
@@ -69,15 +74,15 @@ private slots:
         QTest::mouseClick(&button, Qt::LeftButton);
         auto& popover = child<LightPopover>(window, "popOver4");
         QTRY_VERIFY(popover.isVisible());
-        retype(popover.xField4(), "12");
+        retype(popover.field(lightField::x), "12");
         QCOMPARE(app().sceneview().scene().getLightPosition().x, 12.0);
         QTest::mouseClick(&popover.defaultButton4(), Qt::LeftButton);
-        QCOMPARE(popover.zField4().text(), QStringLiteral("50.000000"));
+        QCOMPARE(popover.field(lightField::z).text(), QStringLiteral("50.000000"));
         QCOMPARE(app().sceneview().scene().getLightPosition(), (Vec3{0, 0, 100}));
         QTest::mouseClick(&button, Qt::LeftButton); // closes
         QTest::mouseClick(&button, Qt::LeftButton); // opens
         QTRY_VERIFY(popover.isVisible());
-        QCOMPARE(popover.zField4().text(), QStringLiteral("100.000000"));
+        QCOMPARE(popover.field(lightField::z).text(), QStringLiteral("100.000000"));
     }
 
     void aPopoverClosedByAClickOutsideNeedsTwoClicksToOpenAgain() {

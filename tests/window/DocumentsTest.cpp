@@ -67,7 +67,7 @@ private slots:
         QCOMPARE(delegate.screenview().currentColor(), 2L);
         QVERIFY(delegate.menus().sceneColorItems[2]->isChecked());
         auto& light = child<LightPopover>(delegate.window(), "popOver4");
-        QCOMPARE(light.xField4().text(), QStringLiteral("-500.000000"));
+        QCOMPARE(light.field(lightField::x).text(), QStringLiteral("-500.000000"));
         QVERIFY(qFuzzyCompare(delegate.state().lightColor.blue, 0.96));
         QVERIFY(child<QLabel>(delegate.window(), "titleLabel0").text().endsWith(": Earth"));
         QVERIFY(delegate.menus().fileSave->isEnabled());
@@ -86,7 +86,7 @@ private slots:
         delegate.openFiles({broken});
         // First the offer to save the unsaved planet, given up here.
         QWidget* question = nullptr;
-        QTRY_VERIFY((question = visibleTopLevel("questionSheet")) != nullptr);
+        QVERIFY((question = waitForTopLevel("questionSheet")) != nullptr);
         QTest::mouseClick(&child<QPushButton>(*question, "sheetButton1001"), Qt::LeftButton);
         QWidget* alert = nullptr;
         QTRY_VERIFY((alert = visibleTopLevel("questionSheet")) != nullptr && alert != question);
@@ -106,7 +106,7 @@ private slots:
         blocker.close();
         saveAs(blocker.fileName() + QStringLiteral("/Precious.kvx"), false);
         QWidget* alert = nullptr;
-        QTRY_VERIFY((alert = visibleTopLevel("questionSheet")) != nullptr);
+        QVERIFY((alert = waitForTopLevel("questionSheet")) != nullptr);
         QVERIFY(static_cast<QMessageBox*>(alert)->informativeText().contains("blocker"));
         QVERIFY(delegate.hasUnsavedChanges());
         QCOMPARE(delegate.state().planetArray.size(), std::size_t(1));
@@ -118,18 +118,18 @@ private slots:
         QVERIFY(!delegate.menus().fileSave->isEnabled()); // until the first save or open
         delegate.saveProject1();
         QFileDialog* panel = nullptr;
-        QTRY_VERIFY((panel = qobject_cast<QFileDialog*>(visibleTopLevel("savePanel"))) != nullptr);
+        QVERIFY((panel = waitForTopLevel<QFileDialog>("savePanel")) != nullptr);
         panel->reject();
         const QString package = folder_.filePath(QStringLiteral("Kept.kvx"));
         saveAs(package);
 
-        delegate.settings().editData2(4, "1"); // New without its own question
+        delegate.settings().editData2(generalPosition(GeneralSwitch::clearWithoutAsking), "1");
         delegate.editor().createPlanet("100", "Later");
         delegate.reloadPlanets();
         delegate.menus().fileNew->trigger();
         // Unsaved changes are still offered for saving; given up here.
         QWidget* question = nullptr;
-        QTRY_VERIFY((question = visibleTopLevel("questionSheet")) != nullptr);
+        QVERIFY((question = waitForTopLevel("questionSheet")) != nullptr);
         QTest::mouseClick(&child<QPushButton>(*question, "sheetButton1001"), Qt::LeftButton);
         QTRY_VERIFY(visibleTopLevel("questionSheet") == nullptr);
         QCOMPARE(delegate.state().planetArray.size(), std::size_t(0));
@@ -145,7 +145,7 @@ private slots:
         // A package deleted meanwhile makes Save ask where again.
         QDir(package).removeRecursively();
         delegate.menus().fileSave->trigger();
-        QTRY_VERIFY((panel = qobject_cast<QFileDialog*>(visibleTopLevel("savePanel"))) != nullptr);
+        QVERIFY((panel = waitForTopLevel<QFileDialog>("savePanel")) != nullptr);
         panel->reject();
     }
 
@@ -170,7 +170,7 @@ private slots:
         // The picture is no package: Save asks for a name.
         delegate.menus().fileSave->trigger();
         QFileDialog* panel = nullptr;
-        QTRY_VERIFY((panel = qobject_cast<QFileDialog*>(visibleTopLevel("savePanel"))) != nullptr);
+        QVERIFY((panel = waitForTopLevel<QFileDialog>("savePanel")) != nullptr);
         panel->reject();
 
         // A picture that carries no system, dropped on the window, is refused in one line.
@@ -187,7 +187,7 @@ private slots:
         QDropEvent drop(QPointF(20, 20), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(target, &drop);
         QWidget* alert = nullptr;
-        QTRY_VERIFY((alert = visibleTopLevel("questionSheet")) != nullptr);
+        QVERIFY((alert = waitForTopLevel("questionSheet")) != nullptr);
         QCOMPARE(static_cast<QMessageBox*>(alert)->informativeText(),
                  plain + QStringLiteral(": this picture carries no system"));
         QCOMPARE(delegate.tableView1().model()->rowCount(), 2);

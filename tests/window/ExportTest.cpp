@@ -43,6 +43,7 @@ private slots:
         for (const auto& [stored, row] : cases) {
             app().settings().editData1(2, stored);
             QWidget* question = ask();
+            QVERIFY(question != nullptr);
             QCOMPARE(child<QComboBox>(*question, "exportPopup1").currentIndex(), row);
             QTest::mouseClick(&child<QPushButton>(*question, "sheetButton1001"), Qt::LeftButton);
             QTRY_VERIFY(visibleTopLevel("questionSheet") == nullptr);
@@ -52,9 +53,11 @@ private slots:
 
     void aTransparentBackgroundKeepsItsAlpha() {
         QWidget* question = ask();
+        QVERIFY(question != nullptr);
         auto& include = child<QCheckBox>(*question, "includeButton1");
         QVERIFY(!include.isEnabled() && !include.isChecked());
         const QString png = exportAs(*question, 4);
+        QVERIFY(!png.isEmpty());
         const QImage written(png);
         QVERIFY(written.hasAlphaChannel());
         QCOMPARE(written.size(), QSize(960, 540));
@@ -75,11 +78,13 @@ private slots:
 
     void compressionZeroWritesAJpegAtEightyFive() {
         app().settings().editData1(3, "0");
-        app().settings().editData2(3, "1"); // include the background
+        app().settings().editData2(generalPosition(GeneralSwitch::includeBackground), "1");
         app().setSceneBackground(2);
         QWidget* question = ask();
+        QVERIFY(question != nullptr);
         QVERIFY(child<QCheckBox>(*question, "includeButton1").isChecked());
         const QString jpeg = exportAs(*question, 2, 85);
+        QVERIFY(!jpeg.isEmpty());
 
         const std::optional<Image> scene =
             app().sceneview().imageFromSceneKitView(app().sceneview().size());
@@ -104,8 +109,7 @@ private slots:
         printer.setOutputFileName(pdf);
         app().menus().filePrint->trigger();
         QPrintDialog* dialog = nullptr;
-        QTRY_VERIFY((dialog = qobject_cast<QPrintDialog*>(visibleTopLevel("printDialog"))) !=
-                    nullptr);
+        QVERIFY((dialog = waitForTopLevel<QPrintDialog>("printDialog")) != nullptr);
         dialog->accept();
         QTRY_VERIFY(QFile::exists(pdf));
         const QByteArray document = contents(pdf);
@@ -116,6 +120,7 @@ private slots:
 
     void anAnimationIsWrittenAndItsChoicesAreRemembered() {
         QWidget* sheet = animationSheet();
+        QVERIFY(sheet != nullptr);
         // The sheet holds the menus, both export items alike.
         QVERIFY(!app().menus().fileExport->isEnabled());
         QVERIFY(!app().menus().fileExportAnimation->isEnabled());
@@ -132,7 +137,7 @@ private slots:
         QCOMPARE(reader.size(), QSize(240, 135));
         QVERIFY(app().menus().fileExportAnimation->isEnabled());
 
-        sheet = animationSheet();
+        QVERIFY((sheet = animationSheet()) != nullptr);
         QCOMPARE(child<QSpinBox>(*sheet, "animationFramesField").value(), 4);
         QCOMPARE(child<QDoubleSpinBox>(*sheet, "animationScaleField").value(), 0.25);
         QTest::mouseClick(&child<QPushButton>(*sheet, "sheetButton1001"), Qt::LeftButton);
@@ -141,11 +146,12 @@ private slots:
 
     void cancellingAnAnimationLeavesNoFile() {
         QWidget* sheet = animationSheet();
+        QVERIFY(sheet != nullptr);
         child<QSpinBox>(*sheet, "animationFramesField").setValue(720);
         child<QDoubleSpinBox>(*sheet, "animationScaleField").setValue(1.0);
         saveAnimation(*sheet, folder_.filePath(QStringLiteral("long.webm")));
         QWidget* progress = nullptr;
-        QTRY_VERIFY((progress = visibleTopLevel("progressSheet")) != nullptr);
+        QVERIFY((progress = waitForTopLevel("progressSheet")) != nullptr);
         // Cancel once the count of frames shows the work under way.
         QTRY_VERIFY(!child<QLabel>(*progress, "progressDetail").text().isEmpty());
         QTest::mouseClick(&child<QPushButton>(*progress, "progressCancel"), Qt::LeftButton);
@@ -158,63 +164,44 @@ private slots:
     }
 
 private:
+    // Each helper gives null or an empty path when what it waits for does not come; the
+    // test's own check of that fails the test, never the suite.
     QWidget* animationSheet() {
-        // The key reaches the menu's shortcut only in the active window, which a sheet that
-        // just closed may have left inactive for a moment.
-        [&] {
-            QVERIFY(QTest::qWaitForWindowActive(&app().window()));
-        }();
+        // The keys reach the window's shortcuts only once it is active again after a sheet.
+        app().window().activateWindow();
+        if (!QTest::qWaitForWindowActive(&app().window()))
+            return nullptr;
         QTest::keyClick(&app().window(), Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
-        QWidget* sheet = nullptr;
-        [&] {
-            QTRY_VERIFY((sheet = visibleTopLevel("animationSheet")) != nullptr);
-        }();
-        return sheet;
+        return waitForTopLevel("animationSheet");
     }
 
-    void saveAnimation(QWidget& sheet, const QString& path) {
+    static void saveAnimation(QWidget& sheet, const QString& path) {
         QTest::mouseClick(&child<QPushButton>(sheet, "sheetButton1000"), Qt::LeftButton);
-        QFileDialog* panel = nullptr;
-        [&] {
-            QTRY_VERIFY((panel = qobject_cast<QFileDialog*>(visibleTopLevel("savePanel"))) !=
-                        nullptr);
-        }();
-        if (panel != nullptr)
-            chooseInPanel(*panel, path);
+        chooseInNextPanel("savePanel", path);
     }
 
     QWidget* ask() {
         app().menus().fileExport->trigger();
-        QWidget* question = nullptr;
-        [&] {
-            QTRY_VERIFY((question = visibleTopLevel("questionSheet")) != nullptr);
-        }();
-        return question;
+        return waitForTopLevel("questionSheet");
     }
 
-    // Picks the format row, goes on to the panel and saves there; returns the file.
+    // Picks the format row, goes on to the panel and saves there; returns the file, or
+    // nothing when the panel does not come, offers another compression or writes nothing.
     QString exportAs(QWidget& question, int row, int expectedSlider = -1) {
         child<QComboBox>(question, "exportPopup1").setCurrentIndex(row);
         QTest::mouseClick(&child<QPushButton>(question, "sheetButton1000"), Qt::LeftButton);
-        QFileDialog* panel = nullptr;
-        [&] {
-            QTRY_VERIFY((panel = qobject_cast<QFileDialog*>(visibleTopLevel("savePanel"))) !=
-                        nullptr);
-        }();
+        auto* panel = waitForTopLevel<QFileDialog>("savePanel");
         if (panel == nullptr)
             return {};
-        auto* slider = panel->findChild<QSlider*>(QStringLiteral("compressSlider2"));
-        if (expectedSlider >= 0)
-            [&] {
-                QVERIFY(slider != nullptr && slider->value() == expectedSlider);
-            }();
+        const auto* slider = panel->findChild<QSlider*>(QStringLiteral("compressSlider2"));
+        if (expectedSlider >= 0 && (slider == nullptr || slider->value() != expectedSlider))
+            return {};
         const QString path =
             folder_.filePath(QStringLiteral("picture.%1").arg(panel->defaultSuffix()));
         chooseInPanel(*panel, path);
-        [&] {
-            QTRY_VERIFY(QFile::exists(path) && visibleTopLevel("progressSheet") == nullptr);
-        }();
-        return path;
+        const bool written = QTest::qWaitFor(
+            [&path] { return QFile::exists(path) && visibleTopLevel("progressSheet") == nullptr; });
+        return written ? path : QString();
     }
 
     QTemporaryDir folder_;

@@ -20,13 +20,6 @@ std::vector<bool> enabledStates(const QList<QAction*>& items) {
     return states;
 }
 
-QMessageBox* openSheet() {
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->objectName() == QLatin1String("questionSheet") && window->isVisible())
-            return qobject_cast<QMessageBox*>(window);
-    return nullptr;
-}
-
 } // namespace
 
 class MenuTest : public FreshWindowSuite {
@@ -49,13 +42,13 @@ private slots:
 
         app().menus().helpUserguide->trigger();
         QMessageBox* sheet = nullptr;
-        QTRY_VERIFY((sheet = openSheet()) != nullptr);
+        QVERIFY((sheet = waitForTopLevel<QMessageBox>("questionSheet")) != nullptr);
         QCOMPARE(sheet->windowModality(), Qt::WindowModal);
         QCOMPARE(sheet->frameGeometry().top(), app().window().frameGeometry().top() + 25);
         QCOMPARE(enabledStates(guarded), std::vector<bool>(22, false));
         QTest::mouseClick(sheet->findChild<QPushButton*>(QStringLiteral("sheetButton1001")),
                           Qt::LeftButton);
-        QTRY_VERIFY(openSheet() == nullptr);
+        QTRY_VERIFY(visibleTopLevel("questionSheet") == nullptr);
         QCOMPARE(enabledStates(guarded), before);
     }
 

@@ -29,7 +29,7 @@ private slots:
         mainWindow& window = app().window();
         QTest::mouseClick(&child<QPushButton>(window, "createPlanetButton1"), Qt::LeftButton);
         QWidget* sheet = nullptr;
-        QTRY_VERIFY((sheet = visibleTopLevel("planetAddSheet")) != nullptr);
+        QVERIFY((sheet = waitForTopLevel("planetAddSheet")) != nullptr);
         QCOMPARE(sheet->size(), QSize(340, 168));
         auto& name = child<QLineEdit>(*sheet, "nameField3");
         auto& create = child<QPushButton>(*sheet, "createButton3");
@@ -106,12 +106,12 @@ private slots:
         app().tableView1().selectRow(0);
         QTest::mouseClick(&child<QPushButton>(window, "deletePlanetButton1"), Qt::LeftButton);
         QWidget* question = nullptr;
-        QTRY_VERIFY((question = visibleTopLevel("questionSheet")) != nullptr);
+        QVERIFY((question = waitForTopLevel("questionSheet")) != nullptr);
         QTest::mouseClick(&child<QPushButton>(*question, "sheetButton1001"), Qt::LeftButton);
         QTRY_VERIFY(visibleTopLevel("questionSheet") == nullptr);
         QCOMPARE(app().state().planetArray.size(), std::size_t(2));
 
-        app().settings().editData2(2, "1");
+        app().settings().editData2(generalPosition(GeneralSwitch::deleteWithoutAsking), "1");
         app().menus().planetDelete->trigger();
         QCOMPARE(app().state().planetArray.size(), std::size_t(1));
         QVERIFY(visibleTopLevel("questionSheet") == nullptr);

@@ -46,13 +46,11 @@ class PreferencesTest : public FreshWindowSuite {
     }
 
     // Picks the menu's second item, as a person would, and waits for the folder panel.
-    QDialog& chooseOtherFolder(QWidget& sheet) {
+    QDialog* chooseOtherFolder(QWidget& sheet) {
         auto& menu = child<QComboBox>(sheet, "systempopup1p");
         menu.setCurrentIndex(1);
         emit menu.activated(1);
-        if (!QTest::qWaitFor([] { return visibleTopLevel("folderPanel") != nullptr; }))
-            qFatal("the folder panel did not open");
-        return *qobject_cast<QDialog*>(visibleTopLevel("folderPanel"));
+        return waitForTopLevel<QDialog>("folderPanel");
     }
 
 private slots:
@@ -81,12 +79,15 @@ private slots:
         const QString before = field.text();
         QVERIFY(!before.isEmpty());
 
-        chooseOtherFolder(sheet).reject();
+        QDialog* panel = chooseOtherFolder(sheet);
+        QVERIFY(panel != nullptr);
+        panel->reject();
         QTRY_COMPARE(menu.currentIndex(), 0);
         QCOMPARE(field.text(), before);
 
         QTemporaryDir chosen;
-        chooseInPanel(chooseOtherFolder(sheet), chosen.path());
+        QVERIFY((panel = chooseOtherFolder(sheet)) != nullptr);
+        chooseInPanel(*panel, chosen.path());
         QTRY_COMPARE(field.text(), chosen.path());
         QCOMPARE(menu.currentIndex(), 0);
         QCOMPARE(menu.itemText(0), QDir(chosen.path()).dirName());
@@ -108,8 +109,9 @@ private slots:
         press(sheet, "saveButton1p");
         QCOMPARE(stored(false)[3], std::string("40"));
         QCOMPARE(stored(false)[2], std::string("3"));
-        QCOMPARE(stored(true)[2], std::string("1"));
-        QCOMPARE(app().settings().checkboxArray[2], std::string("1"));
+        const std::size_t deleteAtOnce = generalPosition(GeneralSwitch::deleteWithoutAsking);
+        QCOMPARE(stored(true)[deleteAtOnce], std::string("1"));
+        QCOMPARE(app().settings().checkboxArray[deleteAtOnce], std::string("1"));
 
         QWidget& again = open();
         QCOMPARE(child<QSlider>(again, "compressSlider2p").value(), 40);
@@ -118,8 +120,8 @@ private slots:
         tick(child<QCheckBox>(again, "generalCheckbox12p"));
         child<QSlider>(again, "compressSlider2p").setValue(10);
         press(again, "closeButton1p");
-        QCOMPARE(stored(true)[2], std::string("1"));
-        QCOMPARE(stored(true)[11], std::string("0"));
+        QCOMPARE(stored(true)[deleteAtOnce], std::string("1"));
+        QCOMPARE(stored(true)[generalPosition(GeneralSwitch::storedOnly12)], std::string("0"));
 
         QWidget& third = open();
         QVERIFY(child<QCheckBox>(third, "generalCheckbox03p").isChecked());

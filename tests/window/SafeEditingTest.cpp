@@ -121,7 +121,7 @@ private slots:
         app().editor().createPlanet("3000", "Third");
         app().reloadPlanets();
         saveAs(folder_.filePath(QStringLiteral("Earth 2.0.kvx")), false);
-        answer(kSecondButton);
+        answer(kFirstButton + 1);
         QCOMPARE(contents(package + QStringLiteral("/data1.xml")), before);
         QVERIFY(title().endsWith(QLatin1Char('*')));
         // A name inside a package is saved beside it, never into it.
@@ -159,12 +159,12 @@ private slots:
         createPlanets(3);
         app().window().close();
         QWidget* question = nullptr;
-        QTRY_VERIFY((question = visibleTopLevel("questionSheet")) != nullptr);
+        QVERIFY((question = waitForTopLevel("questionSheet")) != nullptr);
         QCOMPARE(child<QPushButton>(*question, "sheetButton1000").text(),
                  QStringLiteral("Save As…"));
         QTest::mouseClick(&child<QPushButton>(*question, "sheetButton1000"), Qt::LeftButton);
         QFileDialog* panel = nullptr;
-        QTRY_VERIFY((panel = qobject_cast<QFileDialog*>(visibleTopLevel("savePanel"))) != nullptr);
+        QVERIFY((panel = waitForTopLevel<QFileDialog>("savePanel")) != nullptr);
         panel->reject();
         QTRY_VERIFY(visibleTopLevel("savePanel") == nullptr);
         QVERIFY(app().window().isVisible());
@@ -200,7 +200,7 @@ private slots:
         name->setFocus();
         QTRY_COMPARE(QApplication::focusWidget(), name);
         QTest::keyClick(name, Qt::Key_E, Qt::ControlModifier); // a field's end of line
-        answer(kSecondButton);                                 // the export question came; not now
+        answer(kFirstButton + 1);                              // the export question came; not now
         // Delete stays the field's own key.
         name->setCursorPosition(0);
         QTest::keyClick(name, Qt::Key_Delete);
@@ -258,7 +258,7 @@ private slots:
         toColumn(PlanetColumn::color);
         press(Qt::Key_Return);
         QWidget* dialog = nullptr;
-        QTRY_VERIFY((dialog = visibleTopLevel("colorDialog")) != nullptr);
+        QVERIFY((dialog = waitForTopLevel("colorDialog")) != nullptr);
         QLineEdit* html = nullptr;
         for (QLineEdit* field : dialog->findChildren<QLineEdit*>())
             if (field->objectName() != QStringLiteral("qt_spinbox_lineedit"))
@@ -278,7 +278,7 @@ private slots:
         press(Qt::Key_Up);
         press(Qt::Key_Delete);
         QWidget* question = nullptr;
-        QTRY_VERIFY((question = visibleTopLevel("questionSheet")) != nullptr);
+        QVERIFY((question = waitForTopLevel("questionSheet")) != nullptr);
         QTRY_COMPARE(QApplication::activeWindow(), question);
         press(Qt::Key_Return);
         QTRY_COMPARE(app().state().planetArray.size(), std::size_t(1));
@@ -314,7 +314,7 @@ private:
 
     void answer(int button) {
         QWidget* question = nullptr;
-        QTRY_VERIFY((question = visibleTopLevel("questionSheet")) != nullptr);
+        QVERIFY((question = waitForTopLevel("questionSheet")) != nullptr);
         QTest::mouseClick(
             &child<QPushButton>(*question, qPrintable(QStringLiteral("sheetButton%1").arg(button))),
             Qt::LeftButton);
@@ -339,7 +339,7 @@ private:
     // A double click on an entry of the panel's list, as a person picks a package.
     void doubleClickInPanel(const char* panelName, const QString& entry) {
         QFileDialog* panel = nullptr;
-        QTRY_VERIFY((panel = qobject_cast<QFileDialog*>(visibleTopLevel(panelName))) != nullptr);
+        QVERIFY((panel = waitForTopLevel<QFileDialog>(panelName)) != nullptr);
         panel->setDirectory(folder_.path());
         auto& list = child<QAbstractItemView>(*panel, "listView");
         QModelIndex item;

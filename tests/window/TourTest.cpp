@@ -29,7 +29,7 @@ QColor badgeColour(introductionWindow& tour) {
 std::string storedTourSwitch(FreshStart& app) {
     Settings settings(app.delegate().settings().paths());
     settings.readGeneral();
-    return settings.checkboxArray.at(1);
+    return settings.checkboxArray.at(generalPosition(GeneralSwitch::skipTour));
 }
 
 } // namespace
@@ -80,8 +80,9 @@ private slots:
         QTest::mouseClick(&back, Qt::LeftButton);
         QCOMPARE(badgeColour(tour), kBadgeOrange);
         QVERIFY(forward.isEnabled());
-        while (app.delegate().state().currentPage > 2)
+        for (int page = 11; page > 2; --page)
             QTest::mouseClick(&back, Qt::LeftButton);
+        QCOMPARE(app.delegate().state().currentPage, 2);
         QTest::mouseClick(&back, Qt::LeftButton);
         QCOMPARE(app.delegate().state().currentPage, 1);
         QVERIFY(tour.introductionLabel7().text().contains(app.delegate().readAppname()));

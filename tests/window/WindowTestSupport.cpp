@@ -72,6 +72,14 @@ QWidget* visibleTopLevel(const char* name) {
     return nullptr;
 }
 
+QWidget* waitForTopLevel(const char* name) {
+    constexpr int kPatienceMs = 20000;
+    QWidget* window = nullptr;
+    const bool shown =
+        QTest::qWaitFor([&] { return (window = visibleTopLevel(name)) != nullptr; }, kPatienceMs);
+    return shown ? window : nullptr;
+}
+
 void chooseInPanel(QDialog& panel, const QString& path) {
     auto* name = panel.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     if (name == nullptr)
@@ -100,9 +108,10 @@ QByteArray contents(const QString& path) {
 }
 
 void chooseInNextPanel(const char* panelName, const QString& path) {
-    QDialog* panel = nullptr;
-    QTRY_VERIFY((panel = qobject_cast<QDialog*>(visibleTopLevel(panelName))) != nullptr);
-    chooseInPanel(*panel, path);
+    if (QDialog* panel = waitForTopLevel<QDialog>(panelName))
+        chooseInPanel(*panel, path);
+    else
+        QFAIL(panelName);
 }
 
 QColor pixelOnScreen(QWidget& widget, QPoint point) {

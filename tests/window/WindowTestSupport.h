@@ -53,6 +53,13 @@ private:
 // The visible top-level window (a sheet, a panel) of that name, or null.
 QWidget* visibleTopLevel(const char* name);
 
+// Waits for that window as long as a busy desktop may take to show it; null when none comes,
+// so that the caller's check fails the test rather than the whole suite.
+QWidget* waitForTopLevel(const char* name);
+template <typename T> T* waitForTopLevel(const char* name) {
+    return qobject_cast<T*>(waitForTopLevel(name));
+}
+
 template <typename T> T& child(QWidget& window, const char* name) {
     T* found = window.findChild<T*>(QLatin1String(name));
     if (found == nullptr)

@@ -29,19 +29,12 @@ bool waitForFrame(QWidget* window) {
            QTest::qWaitFor([window] { return window->frameGeometry() != window->geometry(); });
 }
 
-QWidget* waitForWindow(const char* name) {
-    QWidget* window = nullptr;
-    return QTest::qWaitFor([&] { return (window = visibleTopLevel(name)) != nullptr; }, 20000)
-               ? window
-               : nullptr;
-}
-
 // Opens a sheet from its menu item, ends it with `end` and opens it again straight away,
 // before the ended sheet lets go of its contents; answers the new sheet once the old one is
 // gone, or null.
 QWidget* reopenAtOnce(QAction& item, const char* name, const std::function<void(QWidget&)>& end) {
     item.trigger();
-    QWidget* first = waitForWindow(name);
+    QWidget* first = waitForTopLevel(name);
     if (first == nullptr)
         return nullptr;
     const QPointer<QWidget> ended = first;
@@ -107,7 +100,7 @@ private slots:
         for (const auto& [item, name] : windows) {
             const QPoint place(300 + 400 * static_cast<int>(frames.size()), 200);
             (app().menus().*item)->trigger();
-            QWidget* window = waitForWindow(name);
+            QWidget* window = waitForTopLevel(name);
             QVERIFY(waitForFrame(window));
             window->move(place);
             window->resize(360, 420);
@@ -123,7 +116,7 @@ private slots:
         start().restart();
         for (qsizetype i = 0; i < frames.size(); ++i) {
             (app().menus().*windows[i].first)->trigger();
-            QWidget* window = waitForWindow(windows[i].second);
+            QWidget* window = waitForTopLevel(windows[i].second);
             QVERIFY(waitForFrame(window));
             QTRY_COMPARE(window->frameGeometry(), frames[i]);
         }
@@ -133,7 +126,7 @@ private slots:
         settings.saveData0("5000", "Left1");
         start().restart();
         app().menus().windowGradation->trigger();
-        QWidget* window = waitForWindow("gradationWindow");
+        QWidget* window = waitForTopLevel("gradationWindow");
         QVERIFY(waitForFrame(window));
         const QRect screen = window->screen()->availableGeometry();
         QTRY_VERIFY(screen.contains(window->frameGeometry()));
@@ -168,7 +161,7 @@ private slots:
         QCOMPARE(menus.editFindjump->shortcut(), QKeySequence(QStringLiteral("Ctrl+J")));
         PlanetTable& table = app().tableView1();
         QTest::keyClick(&table, Qt::Key_F, Qt::ControlModifier);
-        QWidget* find = waitForWindow("searchWindow");
+        QWidget* find = waitForTopLevel("searchWindow");
         QVERIFY(find != nullptr);
         find->close();
 
@@ -192,7 +185,7 @@ private slots:
     void supportOpensThePageThatShipsWithThisVersion() {
         PageCatcher catcher;
         app().menus().helpSupport->trigger();
-        QWidget* question = waitForWindow("questionSheet");
+        QWidget* question = waitForTopLevel("questionSheet");
         QVERIFY(question != nullptr);
         QTest::mouseClick(&child<QPushButton>(*question, "sheetButton1000"), Qt::LeftButton);
         QTRY_COMPARE(catcher.opened, supportPageAddress());

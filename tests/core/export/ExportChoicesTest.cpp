@@ -10,26 +10,26 @@ TEST(ExportChoices, CompressionFactorIsTheSliderOverAHundred) {
     EXPECT_FLOAT_EQ(compressionFactor(140), 1.0f);
 }
 
-TEST(ExportChoices, ExportNeedsOneVisiblePlanet) {
-    PlanetList planets;
-    EXPECT_FALSE(canExport(planets));
-    PlanetRecord hidden = newPlanetRecord("1", "Hidden");
-    hidden.state = "0";
-    planets.append(hidden);
-    planets.append(hidden);
-    EXPECT_FALSE(canExport(planets));
-    planets.append(newPlanetRecord("2", "Shown"));
-    EXPECT_TRUE(canExport(planets));
-    planets.remove(2);
-    EXPECT_FALSE(canExport(planets));
-}
-
+// The box starts on only for exactly "1" in the switch's own row (General "Value04").
 TEST(ExportChoices, IncludeBackgroundOnlyWithAColour) {
-    EXPECT_FALSE(includeBackgroundChoice(0, "1").enabled);
-    EXPECT_FALSE(includeBackgroundChoice(0, "1").on);
-    EXPECT_TRUE(includeBackgroundChoice(3, "1").on);
-    EXPECT_TRUE(includeBackgroundChoice(1, "0").enabled);
-    EXPECT_FALSE(includeBackgroundChoice(1, "0").on);
+    struct Case {
+        long background;
+        std::size_t position;
+        const char* value;
+        IncludeBackgroundChoice expected;
+    };
+    const Case cases[] = {
+        {0, 3, "1", {false, false}}, {3, 3, "1", {true, true}},  {1, 3, "0", {true, false}},
+        {1, 3, "2", {true, false}},  {1, 2, "1", {true, false}}, {1, 4, "1", {true, false}},
+    };
+    for (const Case& c : cases) {
+        std::vector<std::string> general(12, "0");
+        general[c.position] = c.value;
+        const IncludeBackgroundChoice choice = includeBackgroundChoice(c.background, general);
+        EXPECT_EQ(choice.enabled, c.expected.enabled) << c.background << " " << c.position;
+        EXPECT_EQ(choice.on, c.expected.on) << c.background << " " << c.position << c.value;
+    }
+    EXPECT_FALSE(includeBackgroundChoice(1, {"1", "1", "1"}).on); // a short list
 }
 
 } // namespace

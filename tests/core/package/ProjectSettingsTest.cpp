@@ -56,7 +56,7 @@ TEST(ProjectChecks, OneBadCameraValueRefusesTheWholeCamera) {
     const struct {
         std::size_t offset;
         const char* value;
-    } cases[] = {{0, "29.9"}, {1, "90.5"}, {2, "1e2"}, {3, "12."}, {4, "0"}};
+    } cases[] = {{0, "29.9"}, {1, "90.5"}, {2, "1e2"}, {3, "12."}, {4, "0"}, {4, "-5"}};
     for (const auto& c : cases) {
         const ProjectChecks checks = checksWith(setting::cameraXFov + c.offset, c.value);
         EXPECT_FALSE(checks.camera) << c.value;
@@ -65,6 +65,9 @@ TEST(ProjectChecks, OneBadCameraValueRefusesTheWholeCamera) {
         EXPECT_TRUE(checks.light);
     }
     EXPECT_TRUE(checksWith(setting::cameraXFov + 4, "0.001").camera);
+    // Only z must lie in front: x, y and the light may be negative.
+    EXPECT_TRUE(checksWith(setting::cameraXFov + 2, "-5").camera);
+    EXPECT_TRUE(checksWith(setting::lightX + 2, "-100").light);
 }
 
 TEST(ProjectChecks, OneBadLightValueRefusesTheLightAndMarksThatField) {

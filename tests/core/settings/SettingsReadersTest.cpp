@@ -49,11 +49,33 @@ TEST(SettingsReaders, ShortOrForeignListsGiveDefaults) {
     const std::vector<std::string> empty;
     EXPECT_EQ(preferredFormatRow(empty), 0);
     EXPECT_EQ(exportQuestionFormatRow(empty), 4);
-    for (int n = 1; n <= 12; ++n)
-        EXPECT_FALSE(generalSwitch(empty, n));
-    EXPECT_FALSE(generalSwitch({"1"}, 0));
-    EXPECT_TRUE(generalSwitch({"0", "1"}, 2));
-    EXPECT_FALSE(generalSwitch({"0", "abc"}, 2));
+    for (std::size_t i = 0; i < kGeneralSwitchCount; ++i)
+        EXPECT_FALSE(generalSwitch(empty, static_cast<GeneralSwitch>(i)));
+    EXPECT_TRUE(generalSwitch({"0", "1"}, GeneralSwitch::skipTour));
+    EXPECT_FALSE(generalSwitch({"0", "abc"}, GeneralSwitch::skipTour));
+}
+
+// Each switch that changes behaviour reads its own row, and writes back under its own field.
+TEST(SettingsReaders, GeneralSwitchesByName) {
+    struct Row {
+        GeneralSwitch which;
+        std::size_t position;
+        const char* field;
+    };
+    const Row rows[] = {{GeneralSwitch::centreAtStart, 0, "Value01"},
+                        {GeneralSwitch::skipTour, 1, "Value02"},
+                        {GeneralSwitch::deleteWithoutAsking, 2, "Value03"},
+                        {GeneralSwitch::includeBackground, 3, "Value04"},
+                        {GeneralSwitch::clearWithoutAsking, 4, "Value05"},
+                        {GeneralSwitch::storedOnly12, 11, "Value12"}};
+    for (const Row& row : rows) {
+        std::vector<std::string> general(24, "0");
+        general[row.position] = "1";
+        for (const Row& other : rows)
+            EXPECT_EQ(generalSwitch(general, other.which), other.position == row.position)
+                << row.field << " read as " << other.field;
+        EXPECT_EQ(generalField(row.which), row.field);
+    }
 }
 
 TEST(WindowPlacement, StoredFrameOnlyWhenItHasASize) {
