@@ -35,7 +35,6 @@ public:
     // each reported to `progress` (parts done, parts).
     std::optional<Image> picture(QSize size, std::string* error,
                                  const std::function<void(int done, int total)>& progress);
-    const QString& rendererProblem() const { return rendererProblem_; }
     // The backdrop looks different: it is handed to the renderer again and drawn.
     void backdropChanged();
 
