@@ -39,7 +39,7 @@ public:
         return {};
     }
 
-    std::string addFrame(const Image& frame) override {
+    std::string addFrame(Image frame) override {
         WebPPicture picture;
         if (!WebPPictureInit(&picture))
             return "the WebP library does not match its headers";

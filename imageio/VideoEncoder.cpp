@@ -115,7 +115,7 @@ public:
         return {};
     }
 
-    std::string addFrame(const Image& frame) override {
+    std::string addFrame(Image frame) override {
         int status = av_frame_make_writable(frame_.get());
         if (status < 0)
             return ffmpegError("out of memory for a video frame", status);
