@@ -21,10 +21,11 @@ public:
     using Encode = std::function<Encoded()>;
     using Write = std::function<std::string(Encoded)>;
 
-    // One frame a core, and at least two, so that one is encoded while the oldest is written.
+    // One frame a core: at least two, so that one is encoded while the oldest is written, and
+    // at most four, since every frame on its way is held whole (a large one is tens of MiB).
     explicit FrameWorkers(Write write)
         : write_(std::move(write)),
-          inFlight_(std::max<std::size_t>(2, std::thread::hardware_concurrency())) {}
+          inFlight_(std::clamp<std::size_t>(std::thread::hardware_concurrency(), 2, 4)) {}
 
     // Starts encoding a frame, first writing the oldest when `inFlight` frames are on their
     // way. An empty text, or why a frame could not be written.
