@@ -1,6 +1,7 @@
 #include "imageio/AnimatedGif.h"
 
 #include "core/animate/FrameTiming.h"
+#include "imageio/FrameWorkers.h"
 #include "imageio/GifEncoder.h"
 #include "imageio/GifPalette.h"
 #include "imageio/PendingWriter.h"
@@ -27,12 +28,29 @@ bool putLoopForever(GifFileType* gif) {
            EGifPutExtensionTrailer(gif) != GIF_ERROR;
 }
 
+// A frame reduced to its palette, or why it could not be.
+struct QuantizedFrame {
+    std::optional<IndexedImage> indexed;
+    std::string error;
+    int width = 0;
+    int height = 0;
+};
+
+QuantizedFrame quantizedFrame(const Image& frame, std::optional<IndexedImage> indexed,
+                              std::string error) {
+    return {std::move(indexed), std::move(error), frame.width, frame.height};
+}
+
+// Each frame with a palette of its own is quantised on a worker, several at once, and
+// written in order; with one palette for the loop every frame is mapped to that one palette
+// object, one after another.
 class AnimatedGif final : public AnimationWriter {
 public:
     AnimatedGif(std::unique_ptr<PendingFile> file, const AnimationSettings& settings)
         : file_(std::move(file)), settings_(settings),
           loopPalette_(settings.loopPalette ? std::make_unique<LoopPalette>(kStillQuantizeSpeed)
-                                            : nullptr) {}
+                                            : nullptr),
+          workers_([this](QuantizedFrame frame) { return put(frame); }) {}
     ~AnimatedGif() override { abandon(); }
 
     std::string start() {
@@ -52,34 +70,24 @@ public:
     bool samplesFirst() const override { return loopPalette_ != nullptr; }
     std::string sample(const Image& frame) override { return loopPalette_->add(frame); }
 
-    std::string addFrame(const Image& frame) override {
-        std::string error;
-        const std::optional<IndexedImage> indexed =
-            loopPalette_ ? loopPalette_->remap(frame, error)
-                         : quantizeForGif(frame, error, kFrameQuantizeSpeed);
-        if (!indexed)
-            return error;
-        GraphicsControlBlock control{};
-        control.DisposalMode = DISPOSE_BACKGROUND;
-        control.DelayTime = frameLengthTicks(frame_++, settings_.fps, kCentiseconds);
-        control.TransparentColor =
-            indexed->transparentIndex ? *indexed->transparentIndex : NO_TRANSPARENT_COLOR;
-        GifByteType extension[4];
-        const std::size_t length = EGifGCBToExtension(&control, extension);
-        ColorMapObject* map = makeGifColorMap(indexed->palette);
-        if (map == nullptr)
-            return "out of memory for the GIF palette";
-        const bool described =
-            EGifPutExtension(gif_, GRAPHICS_EXT_FUNC_CODE, static_cast<int>(length), extension) !=
-                GIF_ERROR &&
-            EGifPutImageDesc(gif_, 0, 0, frame.width, frame.height, false, map) != GIF_ERROR;
-        GifFreeMapObject(map);
-        if (!described)
-            return gifErrorText(gif_->Error);
-        return putGifRows(gif_, indexed->indices, frame.width, frame.height);
+    std::string addFrame(Image frame) override {
+        if (loopPalette_) {
+            std::string error;
+            std::optional<IndexedImage> indexed = loopPalette_->remap(frame, error);
+            return put(quantizedFrame(frame, std::move(indexed), std::move(error)));
+        }
+        return workers_.add([image = std::move(frame)]() {
+            std::string error;
+            std::optional<IndexedImage> indexed = quantizeForGif(image, error, kFrameQuantizeSpeed);
+            return quantizedFrame(image, std::move(indexed), std::move(error));
+        });
     }
 
     std::string finish() override {
+        if (std::string error = workers_.finish(); !error.empty()) {
+            abandon();
+            return error;
+        }
         int closeError = 0;
         const int closed = EGifCloseFile(gif_, &closeError);
         gif_ = nullptr;
@@ -91,6 +99,7 @@ public:
     }
 
     void abandon() override {
+        workers_.abandon();
         if (gif_ != nullptr)
             EGifCloseFile(gif_, nullptr);
         gif_ = nullptr;
@@ -98,11 +107,37 @@ public:
     }
 
 private:
+    // Writes the next frame of the loop.
+    std::string put(const QuantizedFrame& frame) {
+        if (!frame.indexed)
+            return frame.error;
+        const IndexedImage& indexed = *frame.indexed;
+        GraphicsControlBlock control{};
+        control.DisposalMode = DISPOSE_BACKGROUND;
+        control.DelayTime = frameLengthTicks(frame_++, settings_.fps, kCentiseconds);
+        control.TransparentColor =
+            indexed.transparentIndex ? *indexed.transparentIndex : NO_TRANSPARENT_COLOR;
+        GifByteType extension[4];
+        const std::size_t length = EGifGCBToExtension(&control, extension);
+        ColorMapObject* map = makeGifColorMap(indexed.palette);
+        if (map == nullptr)
+            return "out of memory for the GIF palette";
+        const bool described =
+            EGifPutExtension(gif_, GRAPHICS_EXT_FUNC_CODE, static_cast<int>(length), extension) !=
+                GIF_ERROR &&
+            EGifPutImageDesc(gif_, 0, 0, frame.width, frame.height, false, map) != GIF_ERROR;
+        GifFreeMapObject(map);
+        if (!described)
+            return gifErrorText(gif_->Error);
+        return putGifRows(gif_, indexed.indices, frame.width, frame.height);
+    }
+
     std::unique_ptr<PendingFile> file_;
     AnimationSettings settings_;
     std::unique_ptr<LoopPalette> loopPalette_;
     GifFileType* gif_ = nullptr;
     int frame_ = 0;
+    FrameWorkers<QuantizedFrame> workers_; // last: its threads finish before the rest goes
 };
 
 } // namespace

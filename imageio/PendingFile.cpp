@@ -62,9 +62,9 @@ std::string PendingFile::write(const void* data, std::size_t size) {
     return {};
 }
 
-std::string PendingFile::commit() {
+std::string PendingFile::commit(Sync sync) {
     std::string error;
-    if (fsync(descriptor_) != 0)
+    if (sync == Sync::now && fsync(descriptor_) != 0)
         error = systemError();
     if (close(descriptor_) != 0 && error.empty())
         error = systemError();

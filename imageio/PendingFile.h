@@ -17,12 +17,15 @@ public:
     PendingFile(const PendingFile&) = delete;
     PendingFile& operator=(const PendingFile&) = delete;
 
+    const std::string& targetPath() const { return target_; }
     const std::string& temporaryPath() const { return temporary_; }
     // Appends bytes; an empty text, or why they could not be written.
     std::string write(const void* data, std::size_t size);
     // Syncs the temporary and renames it over the target; an empty text, or why it failed
-    // (the temporary is then gone too).
-    std::string commit();
+    // (the temporary is then gone too). One of many files that are synced together once all
+    // are written (the frames of a sequence) may leave the sync out.
+    enum class Sync { now, later };
+    std::string commit(Sync sync = Sync::now);
     void abandon();
 
 private:

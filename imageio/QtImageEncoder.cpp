@@ -56,15 +56,6 @@ std::string writeWithQt(const Image& image, ExportFormat format, float compressi
     return {};
 }
 
-std::string writeFramePng(const Image& image, QIODevice& device) {
-    QImageWriter writer(&device, "png");
-    // Qt maps quality q to zlib level (100 - q) * 9 / 91: 80 gives level 1.
-    writer.setQuality(80);
-    if (!writer.write(wrapImage(image)))
-        return writer.errorString().toStdString();
-    return {};
-}
-
 EncodedImage encodeWithQt(const Image& image, ExportFormat format, float compression,
                           const std::vector<PictureText>& texts) {
     QByteArray bytes;

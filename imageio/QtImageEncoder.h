@@ -25,8 +25,5 @@ bool writtenByQt(ExportFormat format);
 // The same encoding streamed into a device; an empty text, or why it failed.
 std::string writeWithQt(const Image& image, ExportFormat format, float compression,
                         QIODevice& device, const std::vector<PictureText>& texts = {});
-// A PNG written for speed, at zlib's fastest level (a fifth larger, twice as fast): one frame
-// of a sequence that may hold hundreds.
-std::string writeFramePng(const Image& image, QIODevice& device);
 
 } // namespace orrery::imageio

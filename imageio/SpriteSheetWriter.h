@@ -5,8 +5,8 @@
 namespace orrery::imageio {
 
 // Every frame of the loop on one PNG sheet in a grid (see sheetGrid), with the JSON atlas
-// beside it: "name.png" and "name.json". The sheet is held whole until finish(), which writes
-// the picture, then the atlas, each in one step.
+// beside it: "name.png" and "name.json". The sheet streams into a hidden file, row of frames
+// by row, which finish() puts in place before it writes the atlas.
 std::unique_ptr<AnimationWriter>
 beginSpriteSheet(const std::string& path, const AnimationSettings& settings, std::string& error);
 

@@ -84,14 +84,20 @@ public:
         const double crf =
             codec.worstCrf - (codec.worstCrf - codec.bestCrf) * settings_.compression;
         av_opt_set_double(context_->priv_data, "crf", std::round(crf), 0);
+        // Each encoder's quicker settings: at the same rate factor a turntable looks the same,
+        // in a file a little larger, for about half (VP9) or a quarter (H.264) of the time,
+        // which on few cores is the time the whole export takes.
         if (kind_ == VideoKind::webm) {
             av_opt_set_int(context_->priv_data, "row-mt", 1, 0);
-            av_opt_set_int(context_->priv_data, "deadline", 1 /* good */, 0);
-            av_opt_set_int(context_->priv_data, "cpu-used", 4, 0);
+            av_opt_set(context_->priv_data, "deadline", "realtime", 0);
+            av_opt_set_int(context_->priv_data, "cpu-used", 6, 0);
+            // Real time looks at no frames ahead: buffers for them would only cost memory and
+            // the time to clear it.
+            av_opt_set_int(context_->priv_data, "lag-in-frames", 0, 0);
             context_->bit_rate = 0; // constant quality
             av_dict_set(&stream_->metadata, "alpha_mode", "1", 0);
         } else {
-            av_opt_set(context_->priv_data, "preset", "medium", 0);
+            av_opt_set(context_->priv_data, "preset", "veryfast", 0);
         }
         if ((status = avcodec_open2(context_.get(), encoder, nullptr)) < 0)
             return ffmpegError(std::string("the ") + codec.encoder + " encoder could not start",
@@ -115,7 +121,7 @@ public:
         return {};
     }
 
-    std::string addFrame(const Image& frame) override {
+    std::string addFrame(Image frame) override {
         int status = av_frame_make_writable(frame_.get());
         if (status < 0)
             return ffmpegError("out of memory for a video frame", status);

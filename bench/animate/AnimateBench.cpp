@@ -3,7 +3,9 @@
 // alone (no encoding, nothing written); and the peak memory of a loop of 48 and of 480
 // frames, which a stream should keep the same (but for the sprite sheet, which is one
 // picture of them all). Every run is a process of its own, so that its peak memory is its
-// own; the machine's load moves the figures, the ratios less.
+// own; the machine's load moves the figures, the ratios less. Beside each run stands the
+// processor time it took (user and system, on all its threads): on a machine of few cores
+// that, not the overlap, is what bounds a format's speed.
 //
 //   build/<dir>/bench/animate/bench_animate [EXAMPLE ...]    (default: all four)
 
@@ -32,6 +34,7 @@ namespace fs = std::filesystem;
 
 struct Run {
     double seconds = 0.0;
+    double cpuSeconds = 0.0; // user and system, all threads
     double peakMiB = 0.0;
     bool ok = false;
 };
@@ -53,6 +56,10 @@ Run runProcess(const std::vector<std::string>& arguments) {
     wait4(child, &status, 0, &usage);
     Run run;
     run.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    const auto secondsOf = [](const timeval& t) {
+        return t.tv_sec + t.tv_usec / 1e6;
+    };
+    run.cpuSeconds = secondsOf(usage.ru_utime) + secondsOf(usage.ru_stime);
     run.peakMiB = usage.ru_maxrss / 1024.0;
     run.ok = WIFEXITED(status) && WEXITSTATUS(status) == 0;
     return run;
@@ -115,8 +122,8 @@ int main(int argc, char** argv) {
     const fs::path scratch =
         fs::temp_directory_path() / ("bench-animate-" + std::to_string(getpid()));
 
-    std::printf("%-15s %-10s %-10s %9s %9s %8s %9s\n", "example", "size", "format", "fps", "render",
-                "x render", "peak MiB");
+    std::printf("%-15s %-10s %-10s %9s %9s %8s %7s %9s\n", "example", "size", "format", "fps",
+                "render", "x render", "CPU s", "peak MiB");
     for (const std::string& example : examples) {
         const std::string package = std::string(ORRERY_EXAMPLES) + "/" + example + ".kvx";
         for (const int width : {960, 1920}) {
@@ -125,13 +132,15 @@ int main(int argc, char** argv) {
                 runProcess({self, "--render-only", package, std::to_string(scale), "48"});
             const double renderFps = 48 / alone.seconds;
             const std::string size = width == 960 ? "960x540" : "1920x1080";
-            std::printf("%-15s %-10s %-10s %9.1f %9s %8s %9.0f\n", example.c_str(), size.c_str(),
-                        "(render)", renderFps, "", "", alone.peakMiB);
+            std::printf("%-15s %-10s %-10s %9.1f %9s %8s %7.2f %9.0f\n", example.c_str(),
+                        size.c_str(), "(render)", renderFps, "", "", alone.cpuSeconds,
+                        alone.peakMiB);
             for (const Format& format : kFormats) {
                 const Run run = animate(package, scale, 48, format, scratch);
-                std::printf("%-15s %-10s %-10s %9.1f %9.1f %7.2fx %9.0f%s\n", example.c_str(),
+                std::printf("%-15s %-10s %-10s %9.1f %9.1f %7.2fx %7.2f %9.0f%s\n", example.c_str(),
                             size.c_str(), format.name, 48 / run.seconds, renderFps,
-                            run.seconds / alone.seconds, run.peakMiB, run.ok ? "" : "  FAILED");
+                            run.seconds / alone.seconds, run.cpuSeconds, run.peakMiB,
+                            run.ok ? "" : "  FAILED");
                 std::fflush(stdout);
             }
         }

@@ -24,7 +24,9 @@ struct PipelineOutcome {
 
 // Draws the frames of `range` in order on the calling thread (where the drawing context is)
 // and hands each to `consume` on a second thread while the next one is drawn, so that the
-// two overlap. At most two frames live at any time, however many the range holds.
+// two overlap. The pipeline holds at most two frames at any time, however many the range
+// holds (a writer that encodes on several threads keeps a few more on their way, see
+// FrameWorkers).
 PipelineOutcome runFramePipeline(FrameRange range, const FrameDrawer& draw,
                                  const FrameConsumer& consume, const FrameProgress& progress);
 
