@@ -49,13 +49,34 @@ void ShownPlanets::changed(const PixelBox& area) {
 
 void ShownPlanets::beginRebuild(const SceneNode& root, Vec3 eye, const ScreenFrame& frame) {
     collection_.begin(root, eye);
+    stage_ = Stage::collecting;
+    spread_ = false;
     nextEye_ = eye;
     nextFrame_ = frame;
 }
 
 bool ShownPlanets::continueRebuild(const SurfaceLayerLookup& layerOf, std::size_t nodes) {
-    if (!collection_.step(layerOf, nodes))
-        return false;
+    // A scene taken in over several steps is put in order in a step of its own, and the
+    // list made is drawn from the step after: no step does all the work.
+    if (stage_ == Stage::collecting) {
+        if (!collection_.step(layerOf, nodes)) {
+            spread_ = true;
+            return false;
+        }
+        stage_ = Stage::ordering;
+        if (spread_)
+            return false;
+    }
+    if (stage_ == Stage::ordering) {
+        takeCollection();
+        stage_ = Stage::made;
+        if (spread_)
+            return false;
+    }
+    return true;
+}
+
+void ShownPlanets::takeCollection() {
     collection_.finish(instances_, collected_);
     entries_.clear();
     std::size_t kept = 0;
@@ -69,7 +90,6 @@ bool ShownPlanets::continueRebuild(const SurfaceLayerLookup& layerOf, std::size_
     eye_ = nextEye_;
     frame_ = nextFrame_;
     changedArea_ = kEverywhere;
-    return true;
 }
 
 bool ShownPlanets::patch(const SceneNode& root, const std::vector<SceneChange>& changes,

@@ -21,7 +21,9 @@ class ShownPlanets {
 public:
     // Makes the list again of every planet of the scene that shows in the frame, in steps:
     // each takes in about `nodes` more nodes of the scene, and the last, which returns true,
-    // replaces the list. Until then the list stays as it was, and the scene must not change.
+    // replaces the list; a scene that took several steps is put in order in a step of its
+    // own, and its list returned by the next. The scene must not change meanwhile, and the
+    // list is not to be drawn until the last step.
     void beginRebuild(const SceneNode& root, Vec3 eye, const ScreenFrame& frame);
     bool continueRebuild(const SurfaceLayerLookup& layerOf, std::size_t nodes);
     // Redoes the planets of the changed nodes, for the eye and frame of the last rebuild.
@@ -66,10 +68,15 @@ private:
         std::uint8_t drawnAs = 0;
     };
     void changed(const PixelBox& area);
+    // The collection, in order and cut to what shows in the frame, becomes the list.
+    void takeCollection();
 
     std::vector<PlanetInstance> instances_;
     std::vector<Entry> entries_; // beside instances_
     PlanetCollection collection_;
+    enum class Stage { collecting, ordering, made };
+    Stage stage_ = Stage::made;
+    bool spread_ = false;                 // the rebuild took more than one step
     std::vector<PlanetOrigin> collected_; // the origins of a rebuild, beside instances_
     Vec3 nextEye_;
     ScreenFrame nextFrame_;
